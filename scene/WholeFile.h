@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quorb {
+
+/// Writes a file in one piece: the bytes go to a new file beside it that then takes its name, so that a full
+/// disk leaves either the old file or none, never half of one. A path that names a device or a pipe is
+/// written straight. False on failure, with `error` a sentence for the user that names the path (UTF-8).
+bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes, std::string& error);
+
+}  // namespace quorb

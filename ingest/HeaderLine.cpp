@@ -33,8 +33,8 @@ std::string DateField(const std::tm& time) {
 
 std::string DataFileHeaderLine(const HeaderLineFields& header) {
   return "From: \t" + NameField(header.sourceName) + "\t" + NameField(header.sheetName) + "\t" +
-         header.formula + "\t" + WithDecimalMark(FormatPicture(header.scale, kScalePicture)) + "\t" + header.title + "\t" +
-         DateField(header.written) + "\t" + kMarker + "\t\r\n";
+         header.formula + "\t" + WithDecimalMark(FormatPicture(header.scale, kScalePicture)) + "\t" +
+         header.title + "\t" + DateField(header.written) + "\t" + kMarker + "\t\r\n";
 }
 
 void AppendCellNumber(std::string& out, double value) {

@@ -68,8 +68,8 @@ std::string FormulaTitle(const StateTable& table, const std::string& title) {
 
 std::string Formula(const std::string& title, double scale, std::size_t states) {
   const std::string lastRow = std::to_string(states + 1);
-  return "= " + WithDecimalMark(ScaleText(scale)) + " + LEN(\"" + title + "\") + MAX(A2:C" + lastRow + ") + MAX(D2:D" +
-         lastRow + ")";
+  return "= " + WithDecimalMark(ScaleText(scale)) + " + LEN(\"" + title + "\") + MAX(A2:C" + lastRow +
+         ") + MAX(D2:D" + lastRow + ")";
 }
 
 }  // namespace

@@ -39,10 +39,10 @@ std::string TimeOfDayText(double days) {
   const double seconds = (days - std::floor(days)) * kSecondsPerDay;
   const auto hundredths = std::min<std::int64_t>(std::llround(seconds * 100), 8639999);
   char text[32];
-  const int length = std::snprintf(
-      text, sizeof text, " %02d:%02d:%02d.%02d ", static_cast<int>(hundredths / 360000),
-      static_cast<int>(hundredths / 6000 % 60), static_cast<int>(hundredths / 100 % 60),
-      static_cast<int>(hundredths % 100));
+  const int length =
+      std::snprintf(text, sizeof text, " %02d:%02d:%02d.%02d ", static_cast<int>(hundredths / 360000),
+                    static_cast<int>(hundredths / 6000 % 60), static_cast<int>(hundredths / 100 % 60),
+                    static_cast<int>(hundredths % 100));
   return {text, static_cast<std::size_t>(length)};
 }
 

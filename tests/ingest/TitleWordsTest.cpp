@@ -41,10 +41,14 @@ TEST(TitleWords, BodiesAreFoundAsTheyStandOnly) {
   EXPECT_THAT(WordsIn("MOON Mars"), ElementsAre());
 }
 
-TEST(TitleWords, TheThreeLettersAreFoundOnceInCapitalsAndOnceInAnyCase) {
-  EXPECT_THAT(WordsIn("ESA"), ElementsAre("ESA", "ESA"));
-  EXPECT_THAT(WordsIn("Mesa"), ElementsAre("ESA"));
-  EXPECT_EQ(TitleFault("Mesa"), "");
+TEST(TitleWords, TheThreeLettersAreFoundForTheUnitsAndForTheQuaternionsInAnyCase) {
+  EXPECT_THAT(WordsIn("ESA"), ElementsAre("esa", "ESA"));
+  EXPECT_THAT(WordsIn("Mesa"), ElementsAre("esa", "ESA"));
+  EXPECT_THAT(TitleFault("Mesa"), HasSubstr("\"esa\""));
+}
+
+TEST(TitleWords, TheQuaternionOrderIsFoundInAnyCase) {
+  EXPECT_THAT(WordsIn("XYZW"), ElementsAre("xyz", "xyzw"));
 }
 
 TEST(TitleWords, WordThatChangesTheNumbersIsAFault) {

@@ -392,6 +392,20 @@ TEST(ShortNumberTest, LeavesEveryOtherFieldToTheFullConversion) {
   }
 }
 
+TEST(ShortNumberTest, TheLengthEndsWhereTheNumberEnds) {
+  const English machine;
+  Read("1");
+  double value = 0;
+  EXPECT_EQ(ShortNumberLength("-12.5\t3", value), 5U);
+  EXPECT_EQ(value, -12.5);
+  EXPECT_EQ(ShortNumberLength("1e\t3", value), 1U);
+  EXPECT_EQ(value, 1);
+  value = 7;
+  for (const char* text : {"", "\t3", "-\t3", "x", "inf", "1e400"})
+    EXPECT_EQ(ShortNumberLength(text, value), 0U) << text;
+  EXPECT_EQ(value, 7);
+}
+
 TEST(ShortNumberTest, IsOpenWhereTheThousandsMarkCannotStandInAPlainField) {
   for (const std::string& mark : {std::string(), std::string(","), std::string(" "), std::string("'"),
                                   kNoBreakSpace, kNarrowNoBreakSpace}) {

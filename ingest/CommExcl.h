@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "LoaderWindow.h"
+#include "Specification.h"
+
+namespace quorb {
+
+/// The one road for data: chooses the file, reads its header and its rows into the plot arrays, and
+/// conditions them. It takes no argument; it works from the run state (CommandFileMode, CommandFileName,
+/// FileMode). Callers set DEJADRAW and DEJARESET to 0, and FileMode, before. Nothing is reported but to the
+/// log and in message boxes: a failed statement is skipped and the load goes on.
+void LoadPlot();
+
+/// What the last load made of its file.
+struct LoadOutcome {
+  int ErrorNumber = 0;              ///< failure of the last opening, 0 for none
+  bool headerRead = false;          ///< a header with something behind it was there
+  int rows = 0;                     ///< rows that the file gave
+  SpecificationText specification;  ///< scale, title and ranges as the formula gives them
+};
+const LoadOutcome& LastLoad();
+
+/// Why the last load gave no rows, in words that end a sentence.
+std::string NoRowsReason();
+
+/// Sets the main window that loads report to. The caller keeps the ownership; it must outlive every load.
+void SetLoaderWindow(LoaderWindow* window);
+
+}  // namespace quorb

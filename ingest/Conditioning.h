@@ -1,0 +1,23 @@
+#pragma once
+
+#include "DataFile.h"
+#include "Keywords.h"
+#include "LoaderWindow.h"
+#include "Specification.h"
+
+namespace quorb {
+
+/// Everything that one load knows beside the plot arrays.
+struct LoadState {
+  SpecificationText specification;
+  TitleKeywords keywords = {};
+  LoadPass pass;
+  double givenScale = 1.0;  ///< the plot's scale, also while another one is forced for the rows
+  bool wholeXYZ = false;    ///< PenUpMode, and the three columns of X, Y, Z are the only range
+};
+
+/// Brings the rows that were read to the plot that the scene draws: built-in plot when there are none, colour
+/// values, order of the quaternions, scale mode, events, extremes and axis changes, in this order.
+void ConditionPlot(LoadState& load, LoaderWindow& window);
+
+}  // namespace quorb

@@ -1,0 +1,81 @@
+#include "FileChoice.h"
+
+#include <filesystem>
+
+#include "DataFile.h"
+#include "Dialogs.h"
+#include "Faults.h"
+#include "RunState.h"
+
+namespace quorb {
+
+namespace {
+
+constexpr auto kDirectoryMark = static_cast<char>(std::filesystem::path::preferred_separator);
+
+bool EndsWithMark(const std::string& text) {
+  return text.ends_with('/') || text.ends_with('\\');
+}
+
+std::string WithMark(const std::string& directory) {
+  return EndsWithMark(directory) ? directory : directory + kDirectoryMark;
+}
+
+std::string CurrentDirectory() {
+  std::error_code failed;
+  const auto directory = std::filesystem::current_path(failed);
+  return failed ? std::string() : directory.string();
+}
+
+bool IsQuoted(const std::string& name) {
+  return name.size() >= 2 && name.front() == '"' && name.back() == '"';
+}
+
+// A name without a directory stands in the current one; the quotes stay around the whole.
+std::string WithDirectory(const std::string& name) {
+  if (name.find_first_of("/\\") != std::string::npos) return name;
+  const std::string directory = WithMark(CurrentDirectory());
+  return IsQuoted(name) ? '"' + directory + name.substr(1) : directory + name;
+}
+
+void OpenNamedFile(int& ErrorNumber, LoaderWindow& window) {
+  FILEcOMMANDnAME = WithDirectory(FILEcOMMANDnAME);
+  window.ShowNamedFile(FILEcOMMANDnAME);
+  window.AppendLog("FILEcOMMANDnAME$ " + FILEcOMMANDnAME);
+  if (IsQuoted(FILEcOMMANDnAME)) {
+    FILEcOMMANDnAME = FILEcOMMANDnAME.substr(1, FILEcOMMANDnAME.size() - 2);
+    window.AppendLog("FILEcOMMANDnAME$ cleaned " + FILEcOMMANDnAME);
+  }
+  OpenfileW(FILEcOMMANDnAME, 1, ErrorNumber, window);
+}
+
+void OpenLastFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {
+  OpenfileW(names.NameTempo, 1, ErrorNumber, window);
+  window.ShowReadingName(names.NameTempo);
+  if (ErrorNumber == kFaultFileNotFound || ErrorNumber == kFaultPathNotFound || FileMode == 1) {
+    OpenfileW(names.NameTempoDemo, 1, ErrorNumber, window);
+    window.AppendLog("NameTempoDemo$ " + names.NameTempoDemo);
+  }
+}
+
+}  // namespace
+
+PlotFileNames BuildPlotFileNames() {
+  AppDir = WithMark(AppDir);
+  return {AppDir + "_QuorbExcelPro.qbv", AppDir + "QuorbExcelProDemo.qbv"};
+}
+
+bool ChooseFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {
+  if (FileMode == 2 || CommandFileMode == 1) {
+    OpenNamedFile(ErrorNumber, window);
+  } else {
+    OpenLastFile(names, ErrorNumber, window);
+  }
+
+  const bool isDemo = ErrorNumber == kFaultFileNotFound || FileMode == 1;
+  if (isDemo) CurrentDialogs().MessageBox("The demo will be shown.", "Demo default", kBoxInformationIcon);
+  window.AppendLog(std::string(" The demo will be shown ") + (isDemo ? "True" : "False"));
+  return isDemo;
+}
+
+}  // namespace quorb

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+namespace quorb {
+
+/// The controls of the main window that the loader reads and sets.
+enum class LoaderControl { Check1_0, Check3, Check5, Check9, Check11 };
+
+/// What the loader asks of the main window. Values of check boxes are 0, 1 or 2.
+class LoaderWindow {
+ public:
+  virtual ~LoaderWindow() = default;
+
+  /// A line for the diagnostic log.
+  virtual void AppendLog(const std::string& line) = 0;
+  /// The message strip at the top.
+  virtual void ShowReadingName(const std::string& name) = 0;
+  /// The status line below the plot, which becomes visible.
+  virtual void ShowNamedFile(const std::string& name) = 0;
+  /// The progress bar; showing brings it to the front.
+  virtual void ShowProgress(bool visible) = 0;
+  /// Progress from 0 to 100.
+  virtual void SetProgress(double value) = 0;
+
+  virtual int Value(LoaderControl control) const = 0;
+  /// Runs the control's click routine when the value changes.
+  virtual void SetValue(LoaderControl control, int value) = 0;
+  virtual std::string Tag(LoaderControl control) const = 0;
+  virtual void SetTag(LoaderControl control, const std::string& tag) = 0;
+  virtual void Show(LoaderControl control, bool visible) = 0;
+
+  /// The text of the option "Main KEYWORD Excel".
+  virtual std::string MainKeywordText() const = 0;
+  /// Sets the bar of the redraw speed.
+  virtual void SetSpeedBar(int value) = 0;
+
+  /// Puts the scene's camera on a standard view.
+  virtual void CameraSet(const std::string& mode, double value, double flag) = 0;
+
+  /// Reads the option panel and closes it.
+  virtual void Command2_Click() = 0;
+  /// Lays the window out anew.
+  virtual void Form_Resize() = 0;
+};
+
+}  // namespace quorb

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "FileAccess.h"
+
+namespace quorb {
+
+/// Files of the operating system. A mapped file that another program cuts shorter while it is read gives zero
+/// bytes for the part that is gone, and says so: it never ends the process.
+class SystemFiles : public FileAccess {
+ public:
+  std::unique_ptr<MappedFile> Map(const std::string& path, int& errorNumber) override;
+};
+
+}  // namespace quorb

@@ -1,0 +1,97 @@
+#include <GL/gl.h>
+
+#include "ClassGl.h"
+#include "PlotData.h"
+#include "RunState.h"
+#include "SceneColour.h"
+#include "UserFlag.h"
+#include "ValueBars.h"
+
+namespace quorb {
+
+namespace {
+
+/// Colour of the texts of the scene's own, R x 65536 + G x 256 + B.
+constexpr int kSceneTextColour = 0xFF55AA;
+/// Distance of the vernal point's text from the centre, in kilometres: a low orbit's radius.
+constexpr double kVernalTextKilometres = 6978.137;
+/// OpenGL takes no line of width 0.
+constexpr double kThinnestLine = 0.1;
+/// Points of separate objects are this many times as large as the line is wide.
+constexpr double kPenUpPointFactor = 15;
+
+void ForceBrandedLook() {
+  USERFLAG.NoColourAxisX = 1;
+  USERFLAG.LargeCharacters = 1;
+  USERFLAG.NoLogoLabel = 1;
+  USERFLAG.NoOriginLabel = 1;
+  USERFLAG.NoTimeMoving = 1;
+  USERFLAG.ColourBackground = {255, 255, 255};
+  USERFLAG.ThicknessLineAxis = 18;
+  USERFLAG.ThicknessLinePlot = 3;
+  USERFLAG.ColourAxis = {128, 0, 128};
+  USERFLAG.ColourAxisLabels = {40, 0, 255};
+  USERFLAG.LengthAxisFactor = 0.0002;
+}
+
+GLfloat DrawnWidth(double thickness) {
+  return static_cast<GLfloat>(thickness != 0 ? thickness : kThinnestLine);
+}
+
+}  // namespace
+
+void ClassGl::Draw() {
+  if (USERFLAG.LogoScale != 0) ForceBrandedLook();
+  if (LastPoint + NbEvents != 0 && DEJADRAW == 0) {
+    Reset();
+    if (USERFLAG.SynchroExcelComplete == 1.0) DEJADRAW = 1;
+  }
+  Host.Animation().Update();
+  if (GridsOn) Host.DrawGrids();
+  glPushMatrix();
+  DrawVernalText();
+  DrawLogoText();
+  glPopMatrix();
+  glClear(GL_DEPTH_BUFFER_BIT);
+  glDisable(GL_LIGHTING);
+  glEnable(GL_BLEND);
+  SetAxisWidth();
+  SetPlotWidths();
+  DrawBrokenLine();
+}
+
+void ClassGl::DrawVernalText() {
+  const bool shown =
+      USERFLAG.NoPlotEarth == 0 && ISOmode == 1 && USERFLAG.NoColourAxisX == 1 && USERFLAG.NoOriginLabel == 0;
+  if (!shown) return;
+  Host.Text().Draw3D(FontOutline, "VernaL", FactorScale * kVernalTextKilometres, 0, 0, 3, kSceneTextColour);
+}
+
+void ClassGl::DrawLogoText() {
+  if (USERFLAG.NoLogoLabel != 0) return;
+  Host.Text().Draw3D(FontOutline, AppTitle, Range, 0, 0, 1, kSceneTextColour);
+}
+
+void ClassGl::SetAxisWidth() {
+  glLineWidth(DrawnWidth(USERFLAG.ThicknessLineAxis));
+}
+
+void ClassGl::SetPlotWidths() {
+  const double thickness = USERFLAG.ThicknessLinePlot;
+  glLineWidth(DrawnWidth(thickness));
+  glPointSize(DrawnWidth(PenUpMode == 1 ? kPenUpPointFactor * thickness : thickness));
+}
+
+void ClassGl::DrawBrokenLine() {
+  SetClearColour(USERFLAG.ColourBackground);
+  glClearDepth(1);
+  glShadeModel(GL_SMOOTH);
+  glShadeModel(GL_FLAT);
+  if (CallStoredTrajectory(*this)) return;
+  DrawTrajectory(*this);
+  DrawValueText(Trajectory.Bars, Host);
+  if (dataXYZT.Holds(CURRINDEXI)) USERFLAG.MovieDataTime = dataXYZT[CURRINDEXI][0];
+  DrawScaleLegend();
+}
+
+}  // namespace quorb

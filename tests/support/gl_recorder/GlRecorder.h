@@ -1,0 +1,38 @@
+#pragma once
+
+#include <concepts>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace quorb {
+
+/// Every OpenGL and GLU call of this process since the last ClearCalls(), in order, as it would stand in
+/// source: "glVertex3f(1, 2, 0.5)", constants by name. A program that links this library in place of OpenGL
+/// needs no context and draws nothing. Doubles of the host control write into the same list.
+const std::vector<std::string>& RecordedCalls();
+
+/// Forgets all calls.
+void ClearCalls();
+
+/// The shortest text that reads back as the same number.
+std::string ArgumentText(float value);
+std::string ArgumentText(double value);
+/// The text in quotes.
+std::string ArgumentText(const std::string& text);
+/// "true" or "false".
+std::string ArgumentText(bool value);
+std::string ArgumentText(std::integral auto value) {
+  return std::to_string(value);
+}
+
+/// Appends a call of a function with its arguments, in their text form.
+void RecordCallWith(const std::string& name, std::initializer_list<std::string> arguments);
+
+/// Appends a call with its arguments.
+template <class... Arguments>
+void RecordCallOf(const std::string& name, const Arguments&... arguments) {
+  RecordCallWith(name, {ArgumentText(arguments)...});
+}
+
+}  // namespace quorb

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace quorb {
+
+/// What the window asks of the desktop.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// The year of the clock.
+  virtual int Year() const = 0;
+  /// The directory that the program stands in, without a mark behind.
+  virtual std::string ProgramDirectory() const = 0;
+  /// The user's own directory for the program's data, without a mark behind.
+  virtual std::string DataDirectory() const = 0;
+  /// The directory mark of file names.
+  virtual char DirectoryMark() const = 0;
+};
+
+/// The desktop of this process. Until one is set, the year is 0 and the directories are empty.
+Desktop& CurrentDesktop();
+
+/// Sets the desktop of this process; a null pointer takes it back. The caller keeps the ownership.
+void SetDesktop(Desktop* desktop);
+
+}  // namespace quorb

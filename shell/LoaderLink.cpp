@@ -1,0 +1,62 @@
+#include "LoaderLink.h"
+
+#include "OptionPanel.h"
+#include "RunState.h"
+#include "frmMain.h"
+
+namespace quorb {
+
+namespace {
+
+CheckBox& CheckOf(LoaderControl control) {
+  switch (control) {
+    case LoaderControl::Check1_0:
+      return frmMain->Check1[0];
+    case LoaderControl::Check3:
+      return frmMain->Check3;
+    case LoaderControl::Check5:
+      return frmMain->Check5;
+    case LoaderControl::Check9:
+      return frmMain->Check9;
+    case LoaderControl::Check11:
+      break;
+  }
+  return frmMain->Check11;
+}
+
+class LoaderLink : public LoaderWindow {
+ public:
+  void AppendLog(const std::string& line) override {
+    const std::string& log = frmMain->Text20.text;
+    frmMain->Text20.text = log.empty() ? line : log + NL + line;
+  }
+  void ShowReadingName(const std::string& name) override { frmMain->Text21.text = name; }
+  void ShowNamedFile(const std::string& name) override {
+    frmMain->Text14.text = name;
+    frmMain->Text14.visible = true;
+  }
+  void ShowProgress(bool visible) override { frmMain->ProgressBar1.visible = visible; }
+  void SetProgress(double value) override { frmMain->ProgressBar1.value = value; }
+  int Value(LoaderControl control) const override { return CheckOf(control).value; }
+  void SetValue(LoaderControl control, int value) override { CheckOf(control).value = value; }
+  std::string Tag(LoaderControl control) const override { return CheckOf(control).Tag; }
+  void SetTag(LoaderControl control, const std::string& tag) override { CheckOf(control).Tag = tag; }
+  void Show(LoaderControl control, bool visible) override { CheckOf(control).visible = visible; }
+  std::string MainKeywordText() const override { return frmMain->Text9.text; }
+  void SetSpeedBar(int value) override { frmMain->HScroll2.value = value; }
+  void CameraSet(const std::string& mode, double value, double flag) override {
+    if (TheScene != nullptr) TheScene->CameraSet(mode, value, flag);
+  }
+  void Command2_Click() override { quorb::Command2_Click(); }
+  void Form_Resize() override { quorb::Form_Resize(); }
+};
+
+LoaderLink loaderLink;
+
+}  // namespace
+
+LoaderWindow& LoaderLinkOfWindow() {
+  return loaderLink;
+}
+
+}  // namespace quorb

@@ -1,0 +1,163 @@
+#include <string>
+
+#include "LoaderLink.h"
+#include "OptionPanel.h"
+#include "PlotControls.h"
+#include "frmMain.h"
+
+namespace quorb {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+void DesignPanel(MainWindow& window) {
+  window.Options.visible = false;
+  const char* const captions[] = {"no Plot Earth...", "no Colour Axis X", "Large Characters ", "no Plot Axis",
+                                  "no Logo Label ",   "no Origin Label",  "no Time Moving",    "Interactive",
+                                  "Moon x10",         "No Sun ray",       "Earth-moon"};
+  for (std::size_t i = 0; i < window.Check1.size(); ++i)
+    window.Check1[i].caption = captions[i];
+  window.Check1[8].value.Design(1);
+  window.Check1[10].visible = false;
+  window.Check3.caption = "Satellite";
+  window.Check4.caption = "Solar panel";
+  window.Check4.visible = false;
+  window.Check5.caption = "Valz";
+  window.Check5.visible = false;
+  window.Check6.caption = "Sat. Axis";
+  window.Check6.value.Design(1);
+  window.Check6.visible = false;
+  window.Check9.caption = "Cubic View";
+  window.Check9.Tag = "REAL_ISO";
+  window.Check10.caption = "m";
+  window.Check11.caption = "Only thrust or Whole orbit";
+  window.Check11.visible = false;
+  for (std::size_t i = 0; i < 4; ++i)
+    window.Text4[i].text.Design("1");
+  window.Text4[4].text.Design("1.5");
+  window.Text4[4].visible = false;
+  const char* const colours[] = {"40",  "80", "120", "128", "128", "128", "0",  "255", "0",
+                                 "255", "0",  "0",   "50",  "100", "150", "10", "20",  "70"};
+  for (std::size_t i = 0; i < window.Text5.size(); ++i) {
+    window.Text5[i].text.Design(colours[i]);
+    window.Text5[i].visible = false;
+  }
+  window.Text7.text.Design("Earthgeo.jpg");
+  window.Text8.text.Design("Moonjpg.jpg");
+  window.Text9.text.Design("MAX");
+  window.Text9.visible = false;
+  window.Command1.caption = "Save";
+  window.Command2.caption = "Close";
+  window.Command3.caption = "Factory Settings";
+}
+
+void DesignPanelLabels(MainWindow& window) {
+  const char* const captions[] = {"Thickness LinePlot ",
+                                  "Length Axis Factor",
+                                  "Thickness LineAxis",
+                                  "X,Y,Z position Factor",
+                                  "Colour of : ",
+                                  "Axis labels",
+                                  "Axis",
+                                  "Plot Nominal",
+                                  "Plot Events",
+                                  "Sphere",
+                                  "BackGround",
+                                  "Directory for the images saved",
+                                  "Satellite  size"};
+  for (std::size_t i = 0; i < window.Label1.size(); ++i)
+    window.Label1[i].caption = captions[i];
+  window.Label1[12].visible = false;
+}
+
+void DesignBar(ScrollBar& bar, int max, int largeChange, int value, bool visible) {
+  bar.max = max;
+  bar.largeChange = largeChange;
+  bar.value.Design(value);
+  bar.visible = visible;
+}
+
+void DesignStrip(MainWindow& window) {
+  DesignBar(window.HScroll1, 10000, 100, 10000, true);
+  DesignBar(window.HScroll2, 16, 3, 9, true);
+  DesignBar(window.HScroll3, 32000, 320, 0, false);
+  DesignBar(window.HScroll8, 32000, 100, 10000, true);
+  DesignBar(window.HScroll10, 32000, 1000, 10000, true);
+  window.Text2.caption = "Redraw speed";
+  window.Text2.toolTip = "Increase or decrease the speed of the dynamic plot";
+  window.Text3.caption = "Redraw";
+  window.Text3.toolTip =
+      "Redraw  feature: new dynamic plot redrawn from the point you select up to the last one";
+  window.Text16.caption = "CubicView range and Axis length";
+  window.Text18.caption = "Size satellite";
+}
+
+void DesignMenus(MainWindow& window) {
+  window.mnuFile.caption = "&File";
+  window.mnuFExit.caption = "E&xit";
+  window.mnuEdit.caption = "&Edit";
+  window.mnuEdit.visible = false;
+  window.mnuOptions.caption = "&OptionsInteractive";
+  window.mnuOinteractive.caption = "&Interactive";
+  window.mnuView.caption = "&View";
+  window.mnuHelp.caption = "&Help";
+  window.mnuUpdateExcel.caption = "&UpdateExcel";
+}
+
+void DesignFrame(MainWindow& window) {
+  window.Command6.caption = "Run Demo";
+  window.Command6.visible = false;
+  window.TextTempo.visible = false;
+  window.Text20.visible = false;
+  window.Text14.visible = false;
+  window.ProgressBar1.visible = false;
+  window.ProgressBar1.Width = 200 * kTwipsPerPixel;
+  window.StatusBar1.Height = 24 * kTwipsPerPixel;
+  window.TextTempo.Height = 20 * kTwipsPerPixel;
+  window.Command6.Height = 24 * kTwipsPerPixel;
+}
+
+void TieTexts(MainWindow& window) {
+  for (std::size_t i = 0; i < window.Text4.size(); ++i) {
+    window.Text4[i].text.changed = [i] { Text4_Change(static_cast<int>(i)); };
+  }
+  window.Text6.text.changed = Text6_Change;
+  window.Text7.text.changed = Text7_Change;
+  window.Text8.text.changed = Text8_Change;
+  window.Text9.text.changed = Text9_Change;
+}
+
+void TieControls(MainWindow& window) {
+  for (std::size_t i = 0; i < window.Check1.size(); ++i) {
+    window.Check1[i].value.changed = [i] { Check1_Click(static_cast<int>(i)); };
+  }
+  window.Check3.value.changed = Check3_Click;
+  window.Check4.value.changed = Check4_Click;
+  window.Check9.value.changed = Check9_Click;
+  window.Check10.value.changed = Check10_Click;
+  window.HScroll1.value.changed = HScroll1_Change;
+  window.HScroll2.value.changed = HScroll2_Change;
+  window.HScroll3.value.changed = HScroll3_Change;
+  window.HScroll8.value.changed = HScroll8_Change;
+  window.HScroll10.value.changed = HScroll10_Change;
+}
+
+}  // namespace
+
+MainWindow::MainWindow() {
+  DesignPanel(*this);
+  DesignPanelLabels(*this);
+  DesignStrip(*this);
+  DesignMenus(*this);
+  DesignFrame(*this);
+}
+
+void CreateMainWindow() {
+  frmMain = std::make_unique<MainWindow>();
+  TieTexts(*frmMain);
+  TieControls(*frmMain);
+  SetLoaderWindow(&LoaderLinkOfWindow());
+}
+
+}  // namespace quorb

@@ -1,0 +1,28 @@
+#include "NamedFile.h"
+
+#include "CommExcl.h"
+#include "Desktop.h"
+#include "RunState.h"
+#include "Settings.h"
+#include "UserFlag.h"
+#include "frmMain.h"
+
+namespace quorb {
+
+void NameDataFile(const std::string& path) {
+  CommandFileMode = 1;
+  CommandFileName = path;
+}
+
+void LoadNamedFile(const std::string& path) {
+  StartRunState();
+  NameDataFile(path);
+  CreateMainWindow();
+  OptionsRead();
+  USERFLAGfactory = USERFLAG;
+  AppDir = CurrentDesktop().ProgramDirectory();
+  ImportDirectory = CurrentDesktop().DataDirectory();
+  LoadPlot();
+}
+
+}  // namespace quorb

@@ -30,7 +30,9 @@ std::vector<std::string> LinesOf(const fs::path& path) {
 /// Runs the program in a directory of its own for each test.
 class QuorbConvert : public testing::Test {
  protected:
-  ProgramOutcome Run(const std::string& arguments) const { return run_.Run(QUORB_CONVERT_PROGRAM, arguments); }
+  ProgramOutcome Run(const std::string& arguments) const {
+    return run_.Run(QUORB_CONVERT_PROGRAM, arguments);
+  }
   void Write(const std::string& name, const std::string& text) const { run_.Write(name, text); }
   bool Exists(const std::string& name) const { return fs::exists(run_.File(name)); }
 
@@ -177,7 +179,8 @@ TEST_F(QuorbConvertRealData, SpaceStationMessageIsConverted) {
 }
 
 TEST_F(QuorbConvertRealData, LunarFlightTableIsConverted) {
-  const ProgramOutcome outcome = Run("'" QUORB_SHARED_DATA "/artemis1_orion_states.txt' -o orion.qbv --title Orion");
+  const ProgramOutcome outcome =
+      Run("'" QUORB_SHARED_DATA "/artemis1_orion_states.txt' -o orion.qbv --title Orion");
   EXPECT_EQ(outcome.err, "");
   ASSERT_EQ(outcome.status, 0);
   const std::vector<std::string> lines = LinesOf(run_.File("orion.qbv"));

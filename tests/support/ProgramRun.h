@@ -47,7 +47,8 @@ class ProgramRun {
 
 /// A data file with this formula and these rows, each already with its TABs.
 inline std::string DataFileText(const std::string& formula, const std::string& rows) {
-  return "From: \tBook\tSheet\t" + formula + "\t1.0000000000\tField title\tDate 2025/01/01 00:00:00\tmark\t\r\n" + rows;
+  return "From: \tBook\tSheet\t" + formula +
+         "\t1.0000000000\tField title\tDate 2025/01/01 00:00:00\tmark\t\r\n" + rows;
 }
 
 }  // namespace quorb

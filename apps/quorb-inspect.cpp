@@ -1,0 +1,84 @@
+#include <iostream>
+#include <optional>
+
+#include "CommExcl.h"
+#include "CommandLine.h"
+#include "ConsoleDialogs.h"
+#include "NamedFile.h"
+#include "Normalise.h"
+#include "NumberText.h"
+#include "PlotReport.h"
+#include "SystemDesktop.h"
+#include "SystemFiles.h"
+#include "SystemRegion.h"
+#include "frmMain.h"
+
+namespace quorb {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(Usage: quorb-inspect FILE [--rows ARRAY[:FIRST-LAST]] [--after-reset] [--log]
+
+Tells what the loader makes of a data file, one name, a TAB and its value a line.
+
+  --rows ARRAY[:FIRST-LAST]  print the rows of one array and nothing else:
+                             dataXYZT, dataEvents, dataEventLog, dataPenUpLabel,
+                             dataQuater, dataSApY, dataSAmY or dataValZ
+  --after-reset              the plot as the scene has scaled it for drawing
+  --log                      print the loader's diagnostic log and nothing else
+  --help                     show this text
+  --version                  show the version
+
+Messages that the viewer would show go to standard error with their titles.
+Exit status: 0 rows were read, 1 the file gave none, 2 wrong call.
+)";
+
+int WrongCall(const std::string& error) {
+  std::cerr << "quorb-inspect: " << error << " (see quorb-inspect --help)\n";
+  return kExitWrongCall;
+}
+
+int Inspect(const CommandLine& call) {
+  LoadNamedFile(call.operands[0]);
+  if (call.Has("--after-reset") && LastLoad().rows > 0) {
+    PlotExtent extent;
+    NormalisePlot(extent);
+  }
+  if (const auto wanted = call.Value("--rows")) {
+    const auto rows = RowsReport(*wanted);
+    if (!rows) return WrongCall("there are no rows '" + *wanted + "'");
+    std::cout << *rows;
+  } else if (call.Has("--log")) {
+    std::cout << frmMain->Text20.text.Get() << '\n';
+  } else {
+    std::cout << PlotReport();
+  }
+  if (LastLoad().rows > 0) return kExitOk;
+  std::cerr << "quorb-inspect: no rows were read from " << call.operands[0] << ": " << NoRowsReason() << '\n';
+  return kExitFailed;
+}
+
+int Run(const std::vector<std::string>& arguments) {
+  if (AnswerHelpOrVersion(arguments, "quorb-inspect", kHelp)) return kExitOk;
+  const CommandLine call = ParseCommandLine(arguments, {"--rows"}, {"--after-reset", "--log"});
+  if (!call.error.empty()) return WrongCall(call.error);
+  if (call.operands.size() != 1) return WrongCall("name one data file");
+  ConsoleDialogs dialogs;
+  SystemFiles files;
+  SystemRegion region;
+  SystemDesktop desktop;
+  SetDialogs(&dialogs);
+  SetFileAccess(&files);
+  SetRegionalSettings(&region);
+  SetDesktop(&desktop);
+  return Inspect(call);
+}
+
+}  // namespace
+
+}  // namespace quorb
+
+int main(int argc, char** argv) {
+  return quorb::Run(quorb::ArgumentsOf(argc, argv));
+}

@@ -1,0 +1,67 @@
+#include <iostream>
+
+#include "CommExcl.h"
+#include "CommandLine.h"
+#include "ConsoleDialogs.h"
+#include "FileAccess.h"
+#include "NumberText.h"
+#include "Rendering.h"
+#include "SystemDesktop.h"
+#include "SystemFiles.h"
+#include "SystemRegion.h"
+
+namespace quorb {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    R"(Usage: quorb-render FILE -o OUT.png|OUT.bmp [--size WxH] [--row N] [--view VIEW]
+                   [--set FIELD=VALUE]...
+
+Draws the picture that the viewer shows of a data file, without a window.
+
+  -o OUT             the picture to write, PNG or BMP by its ending
+  --size WxH         width and height in pixels (default 1280x800)
+  --row N            the last row that is drawn, from 0 (default: the last of all)
+  --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;
+                     proj:STEP the eight projections; iso the plain isometric view
+                     (STEP is 0 when left out; without --view from above Z)
+  --set FIELD=VALUE  sets an option of the record USERFLAG, such as
+                     ThicknessLinePlot=3 or ColourBackground=255,255,255
+  --help             show this text
+  --version          show the version
+
+Messages that the viewer would show go to standard error with their titles.
+Exit status: 0 done, 1 the file gave no rows or the picture could not be drawn or
+written, 2 wrong call.
+)";
+
+int Run(const std::vector<std::string>& arguments) {
+  if (AnswerHelpOrVersion(arguments, "quorb-render", kHelp)) return kExitOk;
+  RenderCall call;
+  std::string error;
+  if (!ReadRenderCall(ParseCommandLine(arguments, {"-o", "--size", "--row", "--view", "--set"}), call,
+                      error)) {
+    std::cerr << "quorb-render: " << error << " (see quorb-render --help)\n";
+    return kExitWrongCall;
+  }
+  ConsoleDialogs dialogs;
+  SystemFiles files;
+  SystemRegion region;
+  SystemDesktop desktop;
+  SetDialogs(&dialogs);
+  SetFileAccess(&files);
+  SetRegionalSettings(&region);
+  SetDesktop(&desktop);
+  if (Render(call, error)) return kExitOk;
+  std::cerr << "quorb-render: " << error << '\n';
+  return kExitFailed;
+}
+
+}  // namespace
+
+}  // namespace quorb
+
+int main(int argc, char** argv) {
+  return quorb::Run(quorb::ArgumentsOf(argc, argv));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QOpenGLWidget>
+#include <QTimer>
+#include <functional>
+
+#include "GlHost.h"
+#include "HostEvents.h"
+
+namespace quorb {
+
+class QtHost;
+
+/// The widget that shows the plot.
+class PlotWidget : public QOpenGLWidget {
+ public:
+  explicit PlotWidget(QWidget* parent = nullptr);
+  ~PlotWidget() override;
+
+  /// The host control that draws in this widget.
+  glCtl& Host();
+
+  /// Sends the host's events to `newEvents` from here on; to be called before the widget is shown.
+  void Start(HostEvents& newEvents);
+
+  /// What a double click and a tick of the animation run.
+  std::function<void()> doubleClick, animationTick;
+
+ protected:
+  void initializeGL() override;
+  void resizeGL(int width, int height) override;
+  void paintGL() override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  void ReleaseContext();
+
+  std::unique_ptr<QtHost> host_;
+  HostEvents* events_ = nullptr;
+  QTimer ticks_;
+};
+
+}  // namespace quorb

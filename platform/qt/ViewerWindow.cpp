@@ -1,0 +1,211 @@
+#include "ViewerWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "ControlBinding.h"
+#include "frmMain.h"
+
+namespace quorb {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr int kBarWidth = 170;
+constexpr int kBarHeight = 15;
+constexpr int kStripHeight = 60;
+
+int Pixels(double twips) {
+  return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+}
+
+QRect PlaceOf(const Control& control) {
+  return {Pixels(control.Left), Pixels(control.Top), Pixels(control.Width), Pixels(control.Height)};
+}
+
+// The codes by which the window's routines know the keys.
+int KeyCodeOf(int key) {
+  switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return 13;
+    case Qt::Key_PageUp:
+      return 33;
+    case Qt::Key_PageDown:
+      return 34;
+    case Qt::Key_End:
+      return 35;
+    case Qt::Key_Home:
+      return 36;
+    case Qt::Key_Left:
+      return 37;
+    case Qt::Key_Up:
+      return 38;
+    case Qt::Key_Right:
+      return 39;
+    case Qt::Key_Down:
+      return 40;
+    default:
+      return key >= Qt::Key_0 && key <= Qt::Key_Z ? key : 0;
+  }
+}
+
+int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) + (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
+}
+
+}  // namespace
+
+ViewerWindow::ViewerWindow() {
+  canvas_ = new QWidget(this);
+  plot_ = new PlotWidget(canvas_);
+  setCentralWidget(canvas_);
+  canvas_->installEventFilter(this);
+  qApp->installEventFilter(this);
+  updateTimer_.setTimerType(Qt::PreciseTimer);
+  connect(&updateTimer_, &QTimer::timeout, this, [] { TheScene->TheUpdateTimer_ThatTime(); });
+  connect(plot_, &QOpenGLWidget::frameSwapped, this, [this] {
+    if (frameShown) frameShown();
+  });
+}
+
+ViewerWindow::~ViewerWindow() {
+  qApp->removeEventFilter(this);
+  delete plot_;
+}
+
+void ViewerWindow::Load(const std::string& commandLine) {
+  plot_->doubleClick = glxCtl1_DblClick;
+  plot_->animationTick = glxCtl1_TimerTick;
+  Form_Load(commandLine, plot_->Host());
+  TheScene->TheUpdateTimer.changed = [this](int milliseconds) {
+    if (milliseconds > 0) {
+      updateTimer_.start(milliseconds);
+    } else {
+      updateTimer_.stop();
+    }
+  };
+  plot_->Start(HostEventsOfWindow());
+  MakeWidgets();
+  MakeMenus();
+  resize(1280, 860);
+}
+
+void ViewerWindow::MakeWidgets() {
+  MainWindow& window = *frmMain;
+  window.form.refresh = [this] { setWindowTitle(QString::fromStdString(frmMain->form.caption)); };
+  window.form.refresh();
+  window.GlPlace.refresh = [this] { plot_->setGeometry(PlaceOf(frmMain->GlPlace)); };
+  window.GlPlace.takeFocus = [this] { plot_->setFocus(); };
+
+  strip_ = new QWidget(canvas_);
+  auto* rows = new QVBoxLayout(strip_);
+  rows->setContentsMargins(8, 2, 8, 2);
+  rows->setSpacing(2);
+  auto* bars = new QHBoxLayout;
+  bars->addWidget(MakeBar(window.HScroll1, window.Text3));
+  bars->addWidget(MakeBar(window.HScroll2, window.Text2));
+  bars->addWidget(MakeBar(window.HScroll8, window.Text16));
+  bars->addWidget(MakeBar(window.HScroll10, window.Text18));
+  bars->addStretch(1);
+  auto* progress = new QProgressBar(strip_);
+  progress->setFixedSize(Pixels(window.ProgressBar1.Width), kBarHeight);
+  BindProgress(*progress, window.ProgressBar1);
+  bars->addWidget(progress);
+  rows->addLayout(bars);
+  rows->addStretch(1);
+  auto* status = new QLabel(strip_);
+  BindLine(*status, window.Text14);
+  rows->addWidget(status);
+  window.StatusBar1.Height = kStripHeight * kTwipsPerPixel;
+
+  log_ = new QPlainTextEdit(canvas_);
+  BindLog(*log_, window.Text20);
+}
+
+QWidget* ViewerWindow::MakeBar(ScrollBar& bar, Label& label) {
+  auto* holder = new QWidget(strip_);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  auto* text = new QLabel(holder);
+  auto* slider = new QScrollBar(Qt::Horizontal, holder);
+  slider->setFixedSize(kBarWidth, kBarHeight);
+  BindLabel(*text, label);
+  BindBar(*slider, bar);
+  column->addWidget(text);
+  column->addWidget(slider);
+  return holder;
+}
+
+void ViewerWindow::MakeMenus() {
+  MainWindow& window = *frmMain;
+  QMenu* file = menuBar()->addMenu(QString());
+  BindMenu(*file, window.mnuFile);
+  BindEntry(*file->addAction(QString()), window.mnuFExit, [this] { close(); });
+  menuBar()->setVisible(window.mnuFile.visible);
+}
+
+void ViewerWindow::LayOut() {
+  MainWindow& window = *frmMain;
+  window.form.Width = canvas_->width() * kTwipsPerPixel;
+  window.form.Height = canvas_->height() * kTwipsPerPixel;
+  PlaceWidgets();
+  Form_Resize();
+}
+
+void ViewerWindow::PlaceWidgets() {
+  const int stripHeight = Pixels(frmMain->StatusBar1.Height);
+  strip_->setGeometry(0, canvas_->height() - stripHeight, canvas_->width(), stripHeight);
+  log_->setGeometry(canvas_->rect().adjusted(20, 20, -20, -20 - stripHeight));
+}
+
+void ViewerWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (activated_) return;
+  activated_ = true;
+  QTimer::singleShot(0, this, [] { Form_Activate(); });
+}
+
+void ViewerWindow::closeEvent(QCloseEvent* event) {
+  event->accept();
+  Form_Unload();
+}
+
+bool ViewerWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == canvas_ && event->type() == QEvent::Resize && strip_ != nullptr) LayOut();
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  if (isKey && TakesKeysFirst(*watched) &&
+      PassKey(*static_cast<QKeyEvent*>(event), event->type() == QEvent::KeyPress)) {
+    return true;
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+// The form sees a key once, before the control that has the focus.
+bool ViewerWindow::TakesKeysFirst(const QObject& watched) const {
+  if (!watched.isWidgetType() || static_cast<const QWidget&>(watched).window() != this) return false;
+  return focusWidget() != nullptr ? &watched == focusWidget() : &watched == this;
+}
+
+bool ViewerWindow::PassKey(QKeyEvent& event, bool down) {
+  int code = KeyCodeOf(event.key());
+  const bool known = code != 0;
+  const int shift = ShiftMaskOf(event.modifiers());
+  if (down) {
+    Form_KeyDown(code, shift);
+  } else {
+    Form_KeyUp(code, shift);
+  }
+  return known && code == 0;
+}
+
+}  // namespace quorb

@@ -1,0 +1,122 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "PictureCompare.h"
+#include "ProgramRun.h"
+#include "VirtualDisplay.h"
+
+// The X headers define words of their own: they come last.
+#include "CloseWindow.h"
+
+namespace quorb {
+namespace {
+
+constexpr int kWidth = 1280;
+constexpr int kPlotHeight = 800;
+constexpr int kStripHeight = 60;
+constexpr double kTolerance = 0.004;
+
+/// The real program on a display of its own, with settings of its own.
+class ViewerWindow : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_TRUE(display_.Works()) << "Xvfb did not start"; }
+
+  std::vector<std::string> Environment() const {
+    return {"DISPLAY=" + display_.Name(), "QT_QPA_PLATFORM=xcb", "XDG_CONFIG_HOME=" + run_.File("config"),
+            "XDG_DATA_HOME=" + run_.File("data"), "XDG_RUNTIME_DIR=" + run_.File("")};
+  }
+
+  std::unique_ptr<Background> Start(const std::string& commandLine) const {
+    std::vector<std::string> command = {QUORB_VIEWER_PROGRAM};
+    if (!commandLine.empty()) command.push_back(commandLine);
+    return std::make_unique<Background>(command, Environment());
+  }
+
+  // What stands on the screen, as a PNG file of this name.
+  PixelImage Screen(const std::string& crop) const {
+    run_.Run("/usr/bin/env",
+             "DISPLAY=" + display_.Name() + " import -window root -crop " + crop + " +repage screen.png");
+    PixelImage image;
+    std::string error;
+    EXPECT_TRUE(ReadPng(run_.File("screen.png"), image, error)) << error;
+    return image;
+  }
+
+  ProgramOutcome Drive(const std::string& words) const {
+    return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " xdotool " + words);
+  }
+
+  // Waits until a window with this text in its title is on the screen.
+  bool WaitForWindow(const std::string& title) const {
+    return Drive("search --sync --onlyvisible --name '" + title + "'").status == 0;
+  }
+
+  ProgramRun run_;
+  VirtualDisplay display_{kWidth, kPlotHeight + kStripHeight};
+};
+
+TEST_F(ViewerWindow, ShowsTheSamePictureAsTheProgramWithoutAWindow) {
+  const std::string file = QUORB_EXAMPLES "/transfer.qbv";
+  ASSERT_EQ(run_.Run(QUORB_RENDER_PROGRAM, "'" + file + "' -o expected.png").status, 0);
+  PixelImage expected;
+  std::string error;
+  ASSERT_TRUE(ReadPng(run_.File("expected.png"), expected, error)) << error;
+
+  const auto viewer = Start(file);
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  double share = 1;
+  for (int attempt = 0; attempt < 40 && share > kTolerance; ++attempt) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    share = FindDifference(Screen("1280x800+0+0"), expected).share;
+  }
+  EXPECT_LE(share, kTolerance);
+  EXPECT_TRUE(viewer->Runs());
+}
+
+TEST_F(ViewerWindow, AFileWhoseNameHasBlanksOpens) {
+  run_.Write("a plot with blanks.qbv",
+             DataFileText("=0.5+LEN(\"Blanks km\")+MAX(A2:C3)", "1\t2\t3\r\n4\t5\t6\r\n"));
+  const auto viewer = Start(run_.File("a plot with blanks.qbv"));
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  EXPECT_NE(Drive("search --onlyvisible --name 'Demo default'").status, 0);
+  EXPECT_TRUE(viewer->Runs());
+}
+
+TEST_F(ViewerWindow, WithoutAFileItSaysThatTheDemonstrationIsShownAndGoesOn) {
+  const auto viewer = Start("");
+  ASSERT_TRUE(WaitForWindow("Demo default"));
+  Drive("search --onlyvisible --name 'Demo default' key Return");
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  EXPECT_NE(Drive("search --onlyvisible --name 'Demo default'").status, 0);
+  EXPECT_TRUE(viewer->Runs());
+}
+
+TEST_F(ViewerWindow, ClosingTheWindowEndsTheProgramAtOnce) {
+  const auto viewer = Start(QUORB_EXAMPLES "/transfer.qbv");
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  const std::string window = Drive("search --onlyvisible --name 'Quorb'").out;
+  ASSERT_TRUE(CloseWindow(display_.Name(), std::stoul(window)));
+  EXPECT_EQ(viewer->Wait(std::chrono::seconds(10)), 0);
+}
+
+TEST_F(ViewerWindow, HelpAndVersionNeedNoDisplay) {
+  const ProgramOutcome help = run_.Run("/usr/bin/env", "-u DISPLAY '" QUORB_VIEWER_PROGRAM "' --help");
+  EXPECT_EQ(help.status, 0);
+  EXPECT_EQ(help.out,
+            "Usage: QuorbExcelPro [FILE]\n"
+            "\n"
+            "Shows a trajectory that stands in a spreadsheet in three dimensions, live. With a\n"
+            "data file named, of eight characters or more, it shows that file and nothing else.\n"
+            "\n"
+            "  FILE       the data file to show (.qbv)\n"
+            "  --help     show this text\n"
+            "  --version  show the version\n");
+  EXPECT_EQ(run_.Run("/usr/bin/env", "-u DISPLAY '" QUORB_VIEWER_PROGRAM "' --version").out,
+            "QuorbExcelPro 2.8.6\n");
+}
+
+}  // namespace
+}  // namespace quorb

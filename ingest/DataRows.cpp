@@ -95,6 +95,15 @@ void StorePoint(const RowFields& fields, LoadPass& pass) {
   if (fields.count == 3) SetTime(pass.row, 0);
 }
 
+void SetText(TextColumn& column, int row, std::string_view bytes) {
+  const bool plain = std::all_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) == 0; });
+  if (plain) {
+    column.Set(row, bytes);
+  } else {
+    column.Set(row, DecodeText(bytes));
+  }
+}
+
 void StoreEvent(const RowFields& fields, LoadPass& pass, RowMarks& marks) {
   if (fields.count < 5) return;
   const double time = Days(fields.values[5], pass.TimeInSeconds && PenUpMode != 1);
@@ -106,7 +115,7 @@ void StoreEvent(const RowFields& fields, LoadPass& pass, RowMarks& marks) {
   if (fields.count < 6) return;
   marks.hasEvent = true;
   dataEvents.Set(pass.evRow, 1, fields.values[6]);
-  dataEventLog.text.Set(pass.evLog, DecodeText(fields.eventText));
+  SetText(dataEventLog.text, pass.evLog, fields.eventText);
   if (pass.evRow > 0) {
     if (fields.eventText == pass.lastEvent) {
       marks.hasEvent = false;
@@ -115,7 +124,7 @@ void StoreEvent(const RowFields& fields, LoadPass& pass, RowMarks& marks) {
     }
   }
   if (fields.emptyEventTime) marks.hasEvent = false;
-  if (PenUpLabelMode == 1) dataPenUpLabel.Set(pass.row, DecodeText(fields.label));
+  if (PenUpLabelMode == 1) SetText(dataPenUpLabel, pass.row, fields.label);
 }
 
 void StoreQuaternion(const RowFields& fields, LoadPass& pass, RowMarks& marks) {

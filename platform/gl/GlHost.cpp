@@ -101,7 +101,7 @@ void GlHost::SetLights() const {
 void GlHost::SetSwitches() const {
   SetSwitch(GL_DEPTH_TEST, depthTest);
   SetSwitch(GL_MULTISAMPLE, antialiasing);
-  SetSwitch(GL_LINE_SMOOTH, antialiasing);
+
   glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 }
 

@@ -28,6 +28,7 @@ class SavedState {
   SavedState() {
     glPushAttrib(kTouchedState);
     glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
+    glGetIntegerv(GL_TEXTURE_BINDING_2D, &texture);
     glMatrixMode(GL_MODELVIEW);
     glPushMatrix();
   }
@@ -35,9 +36,14 @@ class SavedState {
     glPopMatrix();
     glPopClientAttrib();
     glPopAttrib();
+    // Some drivers keep the first texture that was ever bound, in spite of the saved state.
+    glBindTexture(GL_TEXTURE_2D, static_cast<GLuint>(texture));
   }
   SavedState(const SavedState&) = delete;
   SavedState& operator=(const SavedState&) = delete;
+
+ private:
+  GLint texture = 0;
 };
 
 /// OpenGL answers no question between glBegin and glEnd, and has a matrix mode everywhere else.
@@ -53,6 +59,19 @@ void SetPlainColour(int colour) {
   glDisable(GL_TEXTURE_2D);
   glColor4ub(static_cast<GLubyte>((bits >> 16U) & 0xFFU), static_cast<GLubyte>((bits >> 8U) & 0xFFU),
              static_cast<GLubyte>(bits & 0xFFU), 255);
+}
+
+/// Matrices that count pixels of the viewport, at the depth of a place in the window.
+void CountPixels(const GLdouble (&place)[4]) {
+  GLint viewport[4] = {};
+  glGetIntegerv(GL_VIEWPORT, viewport);
+  glMatrixMode(GL_PROJECTION);
+  glPushMatrix();
+  glLoadIdentity();
+  glOrtho(viewport[0], viewport[0] + viewport[2], viewport[1], viewport[1] + viewport[3], -1.0, 1.0);
+  glMatrixMode(GL_MODELVIEW);
+  glLoadIdentity();
+  glTranslated(std::round(place[0]), std::round(place[1]), 1.0 - 2.0 * place[2]);
 }
 
 void RenderText(FTFont& face, const std::string& text) {
@@ -99,7 +118,7 @@ std::unique_ptr<FTFont> TextFonts::Load(const Key& key) const {
   if (kind == Kind::outline) {
     face = std::make_unique<FTExtrudeFont>(file.c_str());
   } else {
-    face = std::make_unique<FTPixmapFont>(file.c_str());
+    face = std::make_unique<FTTextureFont>(file.c_str());
     pixels = static_cast<unsigned>(std::lround(size * kPixelsPerPoint * pixelRatio));
   }
   if (face->Error() != 0 || !face->FaceSize(pixels)) return nullptr;
@@ -141,7 +160,17 @@ void TextFonts::DrawBitmap(int font, const std::string& text, double x, double y
   const SavedState saved;
   SetPlainColour(colour);
   glRasterPos3d(x, y, z);
+  GLboolean visible = GL_FALSE;
+  glGetBooleanv(GL_CURRENT_RASTER_POSITION_VALID, &visible);
+  if (visible == GL_FALSE) return;
+  GLdouble place[4] = {};
+  glGetDoublev(GL_CURRENT_RASTER_POSITION, place);
+  glDisable(GL_CULL_FACE);
+  CountPixels(place);
   RenderText(*face, text);
+  glMatrixMode(GL_PROJECTION);
+  glPopMatrix();
+  glMatrixMode(GL_MODELVIEW);
 }
 
 void TextFonts::DrawKeptTexts() {

@@ -10,7 +10,7 @@ namespace {
 std::string LocaleItem(nl_item item) {
   const locale_t locale = newlocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, "", nullptr);
   if (locale == nullptr) return {};
-  const std::string text = nl_langinfo_l(item, locale);
+  std::string text = nl_langinfo_l(item, locale);
   freelocale(locale);
   return text;
 }

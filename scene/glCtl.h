@@ -115,7 +115,7 @@ class glCtl {
   virtual void SetDepthBuffer(bool wanted) = 0;
   /// Hidden parts are left out.
   virtual void SetDepthTest(bool on) = 0;
-  /// Edges of lines and surfaces are smoothed.
+  /// Edges of solid letters are smoothed.
   virtual void SetAntialiasing(bool on) = 0;
   /// Extent of the scene along the three axes, for the grid.
   virtual void SetSize(double x, double y, double z) = 0;

@@ -33,7 +33,8 @@ class GlHost : public glCtl {
 
   void SetDepthBuffer(bool wanted) override { depthBufferWanted = wanted; }
   void SetDepthTest(bool on) override { depthTest = on; }
-  void SetAntialiasing(bool on) override { antialiasing = on; }
+  /// Smooths the solid letters. Lines stay as they are, so that a line of many short pieces has no gaps.
+  void SetAntialiasing(bool on) override { fonts.SetAntialiasing(on); }
   void SetSize(double x, double y, double z) override { size = {x, y, z}; }
 
   HostCamera& Camera() override { return camera; }
@@ -88,7 +89,6 @@ class GlHost : public glCtl {
   double pixelRatio = 1.0;
   bool depthBufferWanted = false;
   bool depthTest = false;
-  bool antialiasing = false;
 };
 
 }  // namespace quorb

@@ -10,6 +10,11 @@
 #include "FontFiles.h"
 #include "PrintableText.h"
 
+// The header of OpenGL 1.1 that some systems ship ends before this name.
+#ifndef GL_MULTISAMPLE
+#define GL_MULTISAMPLE 0x809D
+#endif
+
 namespace quorb {
 
 namespace {
@@ -142,6 +147,7 @@ void TextFonts::Draw3D(int font, const std::string& text, double x, double y, do
   }
   const SavedState saved;
   SetPlainColour(colour);
+  if (antialiasing) glEnable(GL_MULTISAMPLE);
   glDisable(GL_CULL_FACE);
   glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
   glTranslated(x, y, z);

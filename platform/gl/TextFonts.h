@@ -26,6 +26,9 @@ class TextFonts : public HostText {
   /// Device pixels to a pixel at 96 to the inch, for the flat fonts made from here on; 1 at the start.
   void SetPixelRatio(double ratio) { pixelRatio = ratio; }
 
+  /// Smooths the edges of solid letters.
+  void SetAntialiasing(bool on) { antialiasing = on; }
+
   void NewOutlineFont(int deviceHandle, int& handle, const std::string& face, bool bold, bool italic,
                       double extrusion) override;
   void NewBitmapFont(int deviceHandle, int& handle, const std::string& face, bool bold, bool italic,
@@ -67,6 +70,7 @@ class TextFonts : public HostText {
   FTFont* Face(int font, Kind kind) const;
 
   double pixelRatio = 1.0;
+  bool antialiasing = false;
   std::vector<Font> fonts;
   std::map<Key, int> handles;
   std::vector<KeptText> keptTexts;

@@ -55,22 +55,42 @@ TEST_F(OffscreenHostTest, LineStandsWhereTheCameraPutsIt) {
   EXPECT_EQ(PixelAt(image, 100, 130), (Rgb{0, 0, 0}));
 }
 
-TEST_F(OffscreenHostTest, SlantedEdgesAreSmoothed) {
+TEST_F(OffscreenHostTest, EdgesOfSolidLettersAreSmoothedWhenWanted) {
+  int outline = 0;
+  host->Text().NewOutlineFont(0, outline, "Arial", true, false, 0.1);
+  events.onDraw = [this, outline] { host->Text().Draw3D(outline, "OSA", -90, -30, 0, 90, 0xFFFFFF); };
+  const auto betweenColours = [](const PixelImage& image) {
+    int between = 0;
+    for (std::size_t i = 0; i < image.rgb.size(); i += 3) {
+      if (image.rgb[i] > 20 && image.rgb[i] < 235) ++between;
+    }
+    return between;
+  };
+  EXPECT_EQ(betweenColours(Frame()), 0);
+  host->SetAntialiasing(true);
+  EXPECT_GT(betweenColours(Frame()), 100);
+}
+
+// Pieces of a twentieth of a pixel, up a steep slope: every line of pixels between its ends is lit.
+TEST_F(OffscreenHostTest, ALineOfManyShortPiecesHasNoGaps) {
+  host->SetAntialiasing(true);
   events.onDraw = [] {
     glColor3f(1.0F, 1.0F, 1.0F);
-    glBegin(GL_TRIANGLES);
-    glVertex3f(-80.0F, -60.0F, 0.0F);
-    glVertex3f(80.0F, -40.0F, 0.0F);
-    glVertex3f(0.0F, 70.0F, 0.0F);
+    glBegin(GL_LINE_STRIP);
+    for (int i = 0; i <= 3000; ++i)
+      glVertex3f(static_cast<float>(i) * 0.006F, static_cast<float>(i) * 0.05F - 75.0F, 0.0F);
     glEnd();
   };
-  host->SetAntialiasing(true);
   const PixelImage image = Frame();
-  int between = 0;
-  for (std::size_t i = 0; i < image.rgb.size(); i += 3) {
-    if (image.rgb[i] > 20 && image.rgb[i] < 235) ++between;
+  int lines = 0;
+  for (int y = 0; y < image.height; ++y) {
+    for (int x = 0; x < image.width; ++x) {
+      if (image.rgb[image.At(x, y)] != 255) continue;
+      ++lines;
+      break;
+    }
   }
-  EXPECT_GT(between, 100);
+  EXPECT_GE(lines, 149);
 }
 
 TEST_F(OffscreenHostTest, ReadPixelsOfAnEventGetsTheFrameBefore) {

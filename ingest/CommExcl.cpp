@@ -135,6 +135,10 @@ void ReadChosenFile(LoadState& load, LoaderWindow& window) {
   LinInputW(1, headerLine, window);
   window.AppendLog("frmMain.LinInputW  1, lin$ 'Line Input #1, lin " + headerLine);
   if (!AtEndOfFile(1) && ErrorNumber != kFaultBadFileName) ReadPlotFile(headerLine, load, window);
+  if (LastPoint >= kRowBound) {
+    window.AppendLog("The data file has more rows than the " + std::to_string(kRowBound) +
+                     " that a plot takes: the rows behind them are left out.");
+  }
   if (!ChannelShrunk(1)) return;
   window.AppendLog("The data file became shorter while it was read: rows are missing behind row " +
                    std::to_string(load.pass.row) + ". Load it again.");

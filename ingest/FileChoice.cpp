@@ -66,7 +66,8 @@ PlotFileNames BuildPlotFileNames() {
 }
 
 bool ChooseFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {
-  if (FileMode == 2 || CommandFileMode == 1) {
+  const bool wantsNamedFile = FileMode == 2 || (CommandFileMode == 1 && FileMode != 1);
+  if (wantsNamedFile) {
     OpenNamedFile(ErrorNumber, window);
   } else {
     OpenLastFile(names, ErrorNumber, window);

@@ -100,7 +100,7 @@ extern std::int32_t NbEvents;
 /// Rows in use of dataQuater, dataSApY, dataSAmY, dataValZ.
 extern double NbQuater, NbSApY, NbSAmY, NbValZ;
 
-/// Extremes of the colour values, and of the times in PenUpMode. The maximum is above the minimum.
+/// Extremes of the colour values, and of the times in PenUpMode, never the same.
 extern double ValZMax, ValZMin, TimeMax, TimeMin;
 
 /// The number at the head of the specification formula.
@@ -108,8 +108,8 @@ extern double FactorScale;
 /// The plot's title, without the keywords that were recognised.
 extern std::string MessageUserToPlot;
 
-/// Raises `maximum` of a flat span so that it can be divided by: 0 and 0 gives 1, another flat value 1.01 of
-/// it.
+/// Moves `maximum` of a flat span so that it can be divided by: 0 and 0 gives 1, another flat value 1.01 of
+/// it, which is below the minimum for a negative one.
 void RaiseFlatMaximum(double& maximum, double minimum);
 
 }  // namespace quorb

@@ -100,6 +100,15 @@ TEST_F(FileChoiceTest, WithFileModeOneTheDemonstrationIsOpenedAndAnnounced) {
   EXPECT_TRUE(window.HasLog(" The demo will be shown True"));
 }
 
+TEST_F(FileChoiceTest, WithFileModeOneTheDemonstrationIsOpenedThoughANamedFileIsOnShow) {
+  files.contents["/app/_QuorbExcelPro.qbv"] = "last";
+  files.contents["/app/QuorbExcelProDemo.qbv"] = "demo";
+  files.contents["/data/own.qbv"] = "own";
+  FileMode = 1;
+  EXPECT_TRUE(ChooseNamed("/data/own.qbv"));
+  EXPECT_EQ(OpenedLine(), "demo");
+}
+
 TEST_F(FileChoiceTest, NoFileAtAllShowsTheMessage) {
   EXPECT_TRUE(Choose());
   EXPECT_EQ(ErrorNumber, 53);

@@ -93,6 +93,29 @@ TEST_F(LoadPlotTest, TheWholeCommandLineIsTheName) {
   EXPECT_EQ(LastLoad().rows, 1);
 }
 
+TEST_F(LoadPlotTest, AFormulaOfARangeAloneIsNoPlotToScale) {
+  Load(Header("=MAX(A2:C60)") + "1\t2\t3\r\n4\t5\t6\r\n");
+  EXPECT_EQ(ISOmode, 0);
+  EXPECT_EQ(FactorScale, 1);
+  EXPECT_EQ(LastPoint, 1);
+}
+
+TEST_F(LoadPlotTest, RowsBehindTheBoundAreToldInTheLog) {
+  std::string rows;
+  for (int row = 0; row < kRowBound; ++row)
+    rows += "1\t2\t3\t4\r\n";
+  const auto told = [this] {
+    return std::count(
+        window.log.begin(), window.log.end(),
+        "The data file has more rows than the 1048576 that a plot takes: the rows behind them are "
+        "left out.");
+  };
+  LoadRows(rows);
+  EXPECT_EQ(told(), 0);
+  LoadRows(rows + "1\t2\t3\t4\r\n");
+  EXPECT_EQ(told(), 1);
+}
+
 TEST_F(LoadPlotTest, TheFileIsClosedAtTheEnd) {
   LoadRows("1\t2\t3\r\n");
   EXPECT_EQ(files.open, 0);

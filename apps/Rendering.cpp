@@ -1,6 +1,8 @@
 #include "Rendering.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cstdint>
 
 #include "CommExcl.h"
 #include "NamedFile.h"
@@ -15,7 +17,7 @@ namespace {
 
 constexpr int kLargestSide = 16384;
 constexpr double kTwipsPerPixel = 15;
-constexpr int kViewSteps = 8;
+constexpr int kMostFrames = 1000000;
 constexpr double kUpwardAxis = 3;
 
 template <typename Number>
@@ -53,19 +55,25 @@ bool ReadSetting(const std::string& text, OptionSetting& setting) {
   return FieldNumbers(unused, setting.field).size() == setting.numbers.size();
 }
 
+/// Steps of a walk through views; 0 for a word that names none.
+int StepsOf(const std::string& mode) {
+  if (mode == "isonewplus") return 6;
+  return mode == "isonew" || mode == "proj" || mode == "iso" ? 8 : 0;
+}
+
 bool ReadView(const std::string& text, WantedView& view) {
   const std::size_t colon = text.find(':');
   view.mode = text.substr(0, colon);
-  if (view.mode != "isonew" && view.mode != "proj" && view.mode != "iso") return false;
+  if (StepsOf(view.mode) == 0) return false;
   if (colon == std::string::npos) return true;
   return ReadNumber(std::string_view(text).substr(colon + 1), view.step) && view.step >= 0 &&
-         view.step < kViewSteps;
+         view.step < StepsOf(view.mode);
 }
 
 // The camera steps its walk with each call: it is set one step before the wanted one.
 void ApplyView(const WantedView& view) {
   frmMain->Check9.Tag.clear();
-  const int before = (view.step + kViewSteps - 1) % kViewSteps;
+  const int before = (view.step + StepsOf(view.mode) - 1) % StepsOf(view.mode);
   TheScene->CameraSteps.ViewStep = before;
   TheScene->CameraSteps.ProjStep = before;
   TheScene->CameraSet(view.mode, kUpwardAxis, 1);
@@ -92,9 +100,53 @@ bool LoadInto(OffscreenHost& host, const RenderCall& call, std::string& error) {
   return false;
 }
 
-bool WritePicture(const RenderCall& call, const PixelImage& image, std::string& error) {
-  return EndsWith(call.picture, ".bmp") ? WriteBmp(call.picture, image, error)
-                                        : WritePng(call.picture, image, error);
+bool WritePicture(const std::string& path, const PixelImage& image, std::string& error) {
+  return EndsWith(path, ".bmp") ? WriteBmp(path, image, error) : WritePng(path, image, error);
+}
+
+/// The axes, and with them the local frame, lag one frame.
+void DrawSettled(OffscreenHost& host) {
+  host.Frame();
+  host.Frame();
+}
+
+bool RenderOne(OffscreenHost& host, const RenderCall& call, std::string& error) {
+  TheScene->CURRINDEXI = call.row.value_or(LastPoint);
+  DrawSettled(host);
+  return WritePicture(call.picture, host.Pixels(), error);
+}
+
+bool RenderSeries(OffscreenHost& host, const RenderCall& call, std::string& error) {
+  std::int64_t row = call.row.value_or(0);
+  for (int number = 1; number <= *call.frames; ++number) {
+    TheScene->CURRINDEXI = static_cast<std::int32_t>(std::min<std::int64_t>(row, LastPoint));
+    DrawSettled(host);
+    if (!WritePicture(FrameName(call.picture, number), host.Pixels(), error)) return false;
+    if (call.written) call.written(number);
+    row += call.every;
+  }
+  return true;
+}
+
+bool ReadSeries(const CommandLine& line, RenderCall& call, std::string& error) {
+  const auto frames = line.Value("--frames");
+  const auto every = line.Value("--every");
+  if (frames.has_value() != every.has_value()) {
+    error = "--frames and --every go together: the number of pictures, and the rows from one to the next";
+    return false;
+  }
+  if (!frames) return true;
+  int count = 0;
+  if (!ReadNumber(*frames, count) || count < 1 || count > kMostFrames) {
+    error = "the number of pictures '" + *frames + "' is no whole number from 1 to 1000000";
+    return false;
+  }
+  if (!ReadNumber(*every, call.every) || call.every < 1) {
+    error = "the step '" + *every + "' is no whole number of rows from 1 on";
+    return false;
+  }
+  call.frames = count;
+  return true;
 }
 
 }  // namespace
@@ -128,7 +180,8 @@ bool ReadRenderCall(const CommandLine& line, RenderCall& call, std::string& erro
   if (const auto view = line.Value("--view")) {
     call.view.emplace();
     if (!ReadView(*view, *call.view)) {
-      error = "the view '" + *view + "' is not isonew, proj or iso, with a step :0 to :7 behind it or none";
+      error = "the view '" + *view +
+              "' is not isonew, isonewplus, proj or iso, with the number of a step behind it (:0 on) or none";
       return false;
     }
   }
@@ -140,7 +193,12 @@ bool ReadRenderCall(const CommandLine& line, RenderCall& call, std::string& erro
     }
     call.settings.push_back(setting);
   }
-  return true;
+  return ReadSeries(line, call, error);
+}
+
+std::string FrameName(const std::string& picture, int number) {
+  const std::size_t ending = picture.rfind('.');
+  return picture.substr(0, ending) + std::to_string(number) + picture.substr(ending);
 }
 
 bool Render(const RenderCall& call, std::string& error) {
@@ -152,13 +210,10 @@ bool Render(const RenderCall& call, std::string& error) {
     return false;
   }
   ApplySettings(call.settings);
-  // The first frame digests the plot. A frame sets the background and the axes of the next one.
+  // The first frame digests the plot.
   host->Frame();
   if (call.view) ApplyView(*call.view);
-  TheScene->CURRINDEXI = call.row.value_or(LastPoint);
-  host->Frame();
-  host->Frame();
-  return WritePicture(call, host->Pixels(), error);
+  return call.frames ? RenderSeries(*host, call, error) : RenderOne(*host, call, error);
 }
 
 }  // namespace quorb

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,16 +27,25 @@ struct RenderCall {
   std::string picture;
   int width = 1280;
   int height = 800;
-  std::optional<int> row;          ///< last row that is drawn; the last of the plot when empty
+  /// Last row that is drawn; when empty the plot's last one, in the first picture of a series its first one.
+  std::optional<int> row;
   std::optional<WantedView> view;  ///< the view of a fresh plot when empty
   std::vector<OptionSetting> settings;
+  std::optional<int> frames;  ///< number of pictures of a series; a single picture when empty
+  int every = 0;              ///< rows from one picture of a series to the next
+  /// Takes the number of each picture of a series, from 1, when it is written.
+  std::function<void(int)> written;
 };
+
+/// The name of a picture of a series: its number, from 1, stands in front of the ending.
+std::string FrameName(const std::string& picture, int number);
 
 /// Takes the call from the command line. False with a sentence in `error` when something is wrong with it.
 bool ReadRenderCall(const CommandLine& line, RenderCall& call, std::string& error);
 
-/// Draws the picture with the viewer's own window logic, loader and scene, and writes it. False with a
-/// sentence in `error` when the file gave no rows, or the picture could not be drawn or written.
+/// Draws the picture, or those of a series, with the viewer's own window logic, loader and scene, and writes
+/// them. A series that reaches the plot's last row stays there. False with a sentence in `error` when the
+/// file gave no rows, or a picture could not be drawn or written.
 bool Render(const RenderCall& call, std::string& error);
 
 }  // namespace quorb

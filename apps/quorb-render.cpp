@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <iostream>
 
 #include "CommExcl.h"
@@ -16,7 +18,7 @@ namespace {
 
 constexpr std::string_view kHelp =
     R"(Usage: quorb-render FILE -o OUT.png|OUT.bmp [--size WxH] [--row N] [--view VIEW]
-                   [--set FIELD=VALUE]...
+                   [--set FIELD=VALUE]... [--frames N --every ROWS]
 
 Draws the picture that the viewer shows of a data file, without a window.
 
@@ -24,10 +26,14 @@ Draws the picture that the viewer shows of a data file, without a window.
   --size WxH         width and height in pixels (default 1280x800)
   --row N            the last row that is drawn, from 0 (default: the last of all)
   --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;
-                     proj:STEP the eight projections; iso the plain isometric view
+                     isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the
+                     eight projections, 0 to 7; iso the plain isometric view
                      (STEP is 0 when left out; without --view from above Z)
   --set FIELD=VALUE  sets an option of the record USERFLAG, such as
                      ThicknessLinePlot=3 or ColourBackground=255,255,255
+  --frames N         a series of N pictures, OUT1.png, OUT2.png and so on, from
+                     row 0 or the row of --row on; each shows ...
+  --every ROWS       ... this many rows more than the one before, up to the last
   --help             show this text
   --version          show the version
 
@@ -36,15 +42,27 @@ Exit status: 0 done, 1 the file gave no rows or the picture could not be drawn o
 written, 2 wrong call.
 )";
 
+const std::vector<std::string_view> kOptions = {"-o",    "--size",   "--row",  "--view",
+                                                "--set", "--frames", "--every"};
+
+/// One line on a terminal, written over by the next picture's.
+void ShowProgress(RenderCall& call) {
+  if (!call.frames || isatty(STDERR_FILENO) == 0) return;
+  const int total = *call.frames;
+  call.written = [total](int number) {
+    std::cerr << "\rpicture " << number << " of " << total << (number == total ? "\n" : "") << std::flush;
+  };
+}
+
 int Run(const std::vector<std::string>& arguments) {
   if (AnswerHelpOrVersion(arguments, "quorb-render", kHelp)) return kExitOk;
   RenderCall call;
   std::string error;
-  if (!ReadRenderCall(ParseCommandLine(arguments, {"-o", "--size", "--row", "--view", "--set"}), call,
-                      error)) {
+  if (!ReadRenderCall(ParseCommandLine(arguments, kOptions), call, error)) {
     std::cerr << "quorb-render: " << error << " (see quorb-render --help)\n";
     return kExitWrongCall;
   }
+  ShowProgress(call);
   ConsoleDialogs dialogs;
   SystemFiles files;
   SystemRegion region;

@@ -23,6 +23,13 @@ class EmptyHost : public glCtl {
   HostText& Text() override { return text_; }
   HostAnimation& Animation() override { return animation_; }
   void ReturnList(unsigned /*list*/) override {}
+  void SetMousePointer(int /*id*/, const std::string& /*icon*/) override {}
+  void ShowBusy(bool /*busy*/) override {}
+  void TrackballStart(int /*button*/, int /*x*/, int /*y*/) override {}
+  void TrackballMove(int /*x*/, int /*y*/) override {}
+  void TrackballEnd() override {}
+  bool BeginReading() override { return false; }
+  void EndReading() override {}
   int hDC() const override { return 0; }
   int Width() const override { return 640; }
   int Height() const override { return 480; }
@@ -45,6 +52,12 @@ class EmptyHost : public glCtl {
     void SetUp(float /*x*/, float /*y*/, float /*z*/) override {}
     void Look(float /*positionX*/, float /*positionY*/, float /*positionZ*/, float /*targetX*/,
               float /*targetY*/, float /*targetZ*/, float /*upX*/, float /*upY*/, float /*upZ*/) override {}
+    void Pan(float /*dx*/, float /*dy*/) override {}
+    void Zoom(float /*factor*/) override {}
+    void Dolly(float /*share*/) override {}
+    void Pitch(float /*degrees*/) override {}
+    void Yaw(float /*degrees*/) override {}
+    void Roll(float /*degrees*/) override {}
   };
 
   class EmptyLight : public HostLight {

@@ -84,6 +84,20 @@ void FrameOfAllRows(benchmark::State& state) {
   state.counters["frame_to_bare"] = frame / bare;
 }
 
+/// A tick that moves nothing: the time is held, and no sheet and no movie wait for it.
+void IdleTick(benchmark::State& state) {
+  EmptyHost host;
+  ClassGl scene(host);
+  LastPoint = 100;
+  RedrawState = 1;
+  for (auto unused : state) {
+    static_cast<void>(unused);
+    scene.TheUpdateTimer_ThatTime();
+  }
+}
+
+BENCHMARK(IdleTick);
+
 BENCHMARK(FrameOfAllRows)
     ->ArgName("events")
     ->Arg(0)

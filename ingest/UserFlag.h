@@ -8,6 +8,8 @@ namespace quorb {
 /// A colour as the option panel gives it: red, green, blue from 0 to 255.
 struct OptionColour {
   double red, green, blue;
+
+  bool operator==(const OptionColour&) const = default;
 };
 
 /// All options, and some fields of the run, through which the option panel rules the scene. Every field is a
@@ -55,6 +57,8 @@ struct UserFlagRecord {
   double CubicView = 0;
   double InMetres = 0;
   double SynchroExcelComplete = 0;
+
+  bool operator==(const UserFlagRecord&) const = default;
 };
 
 /// The options in force; those that the program was started with; those that the demonstration puts aside.

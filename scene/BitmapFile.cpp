@@ -30,15 +30,15 @@ std::size_t BitmapRowBytes(int width) {
   return (pixelBytes + 3) / 4 * 4;
 }
 
-std::vector<std::uint8_t> BitmapFileBytes(int width, int height, const std::vector<std::uint8_t>& rows) {
+std::vector<std::uint8_t> BitmapFileHead(int width, int height) {
   if (width < 1 || height < 1) return {};
   const std::size_t pixelBytes = BitmapRowBytes(width) * static_cast<std::size_t>(height);
   const std::size_t largest = std::numeric_limits<std::uint32_t>::max() - kPixelOffset;
-  if (pixelBytes != rows.size() || pixelBytes > largest) return {};
+  if (pixelBytes > largest) return {};
   const auto pixelLength = static_cast<std::uint32_t>(pixelBytes);
 
   std::vector<std::uint8_t> bytes;
-  bytes.reserve(kPixelOffset + pixelBytes);
+  bytes.reserve(kPixelOffset);
   bytes.push_back('B');
   bytes.push_back('M');
   Append32(bytes, pixelLength + kPixelOffset);
@@ -56,18 +56,17 @@ std::vector<std::uint8_t> BitmapFileBytes(int width, int height, const std::vect
   Append32(bytes, 0);
   Append32(bytes, 0);
   Append32(bytes, 0);
-  bytes.insert(bytes.end(), rows.begin(), rows.end());
   return bytes;
 }
 
 bool WriteBitmapFile(const std::string& path, int width, int height, const std::vector<std::uint8_t>& rows,
                      std::string& error) {
-  const std::vector<std::uint8_t> bytes = BitmapFileBytes(width, height, rows);
-  if (bytes.empty()) {
+  const std::vector<std::uint8_t> head = BitmapFileHead(width, height);
+  if (head.empty() || rows.size() != BitmapRowBytes(width) * static_cast<std::size_t>(height)) {
     error = "The file \"" + path + "\" cannot be written: a bitmap file cannot hold a picture of this size.";
     return false;
   }
-  return WriteWholeFile(path, bytes, error);
+  return WriteWholeFile(path, head, rows, error);
 }
 
 }  // namespace quorb

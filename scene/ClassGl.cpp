@@ -72,6 +72,7 @@ void ClassGl::InitGL() {
   GlQuadric = gluNewQuadric();
   gluQuadricCallback(GlQuadric, GLU_ERROR, reinterpret_cast<_GLUfuncptr>(ReportQuadricError));
   HostDC = Host.hDC();
+  EditStateValue = static_cast<int>(MouseMode::select);
 
   glDisable(GL_LIGHTING);
   glEnable(GL_MAP1_VERTEX_3);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kTicksPerCycle = 100;
 constexpr int kTicksPerPass = 5;
+constexpr int kLastWatchTick = 6;
 constexpr double kDefaultStep = 100;
 
 }  // namespace
@@ -51,6 +52,10 @@ void ClassGl::TheUpdateTimer_ThatTime() {
   if (RedrawState > 1) RedrawState = 1;
   // The line above has brought 2 to 1 already, so nothing comes to this, the only test that would set 3.
   if (RedrawState == 2) RedrawState = 3;
+  if (WatchStopped == 1) return;
+  const bool looksAtSheet = LoadBusy != 1 && TickCycle <= kLastWatchTick && USERFLAG.InteractiveExcel == 1.0;
+  if (looksAtSheet && WatchSheet) WatchSheet();
+  if (USERFLAG.MovieFrameCount > 0) MovieSaveAs();
 }
 
 bool ClassGl::IsPassedTick() {

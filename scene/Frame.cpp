@@ -1,5 +1,8 @@
 #include <GL/gl.h>
 
+#include <utility>
+
+#include "AxisLabels.h"
 #include "ClassGl.h"
 #include "PlotData.h"
 #include "RunState.h"
@@ -51,13 +54,17 @@ void ClassGl::Draw() {
   glPushMatrix();
   DrawVernalText();
   DrawLogoText();
+  DrawAxisLetters(*this);
   glPopMatrix();
   glClear(GL_DEPTH_BUFFER_BIT);
   glDisable(GL_LIGHTING);
   glEnable(GL_BLEND);
   SetAxisWidth();
+  DrawAxes();
   SetPlotWidths();
   DrawBrokenLine();
+  KeyBefore = std::move(LastKey);
+  LastKey = PresentKey(*this);
 }
 
 void ClassGl::DrawVernalText() {
@@ -83,6 +90,7 @@ void ClassGl::SetPlotWidths() {
 }
 
 void ClassGl::DrawBrokenLine() {
+  Trajectory.CubeFaceX = Trajectory.CubeFaceY = Trajectory.CubeFaceZ = -AxisLength();
   SetClearColour(USERFLAG.ColourBackground);
   glClearDepth(1);
   glShadeModel(GL_SMOOTH);
@@ -90,7 +98,10 @@ void ClassGl::DrawBrokenLine() {
   if (CallStoredTrajectory(*this)) return;
   DrawTrajectory(*this);
   DrawValueText(Trajectory.Bars, Host);
+  DrawMovingLogo(*this);
+  DrawOriginText(*this);
   if (dataXYZT.Holds(CURRINDEXI)) USERFLAG.MovieDataTime = dataXYZT[CURRINDEXI][0];
+  DrawTimeText(*this);
   DrawScaleLegend();
 }
 

@@ -53,12 +53,26 @@ void ColourSecondPoint(TrajectoryState& state, RampColour& colour, std::int64_t 
   SetTimeColour(colour, dataXYZT[point][0]);
 }
 
-/// The second points of the rows of separate objects, as lines.
+/// The shadows of a row on the walls of the cube, behind its vertex; then the line goes on from the vertex.
+void DrawShadows(const TrajectoryState& state, GLenum primitive, const NumberTable<5>& table,
+                 std::int64_t row, const double* vertex) {
+  glEnd();
+  glBegin(GL_POINTS);
+  ClassGl::DrawCubic(table, state.CubeFaceX, state.CubeFaceY, state.CubeFaceZ, row, state.DotSizeCubic,
+                     state.DotSizeAfterCubic);
+  glEnd();
+  glBegin(primitive);
+  PlaceVertex(vertex);
+}
+
+/// The second points of the rows of separate objects, as lines. Their shadows are taken one column further
+/// right than their points.
 void DrawSecondPoints(TrajectoryState& state) {
   USERFLAG.ShowSatellite = 0;
   glLineWidth(static_cast<GLfloat>(USERFLAG.ThicknessLineAxis));
   glBegin(GL_LINE_STRIP);
   RampColour colour;
+  const bool shadows = USERFLAG.CubicView == 1.0;
   const auto last = static_cast<std::int64_t>(std::min<double>(NbQuater, kRowBound - 1));
   for (std::int64_t row = 0; row <= last; ++row) {
     ColourSecondPoint(state, colour, row);
@@ -67,6 +81,7 @@ void DrawSecondPoints(TrajectoryState& state) {
       glBegin(GL_LINE_STRIP);
     } else {
       PlaceVertex(dataQuater[row]);
+      if (shadows) DrawShadows(state, GL_LINE_STRIP, dataQuater, row, dataQuater[row]);
     }
   }
   glEnd();
@@ -78,13 +93,18 @@ void LiftPen(GLenum primitive) {
 }
 
 /// A dot, and the line goes on from it.
-void DrawMarkedPoint(GLenum primitive, const double* row) {
+void DrawMarkedPoint(const TrajectoryState& state, std::int64_t row, bool shadows) {
+  const double* point = dataXYZT[row] + 1;
   glEnd();
   glBegin(GL_POINTS);
-  PlaceVertex(row + 1);
+  PlaceVertex(point);
+  if (shadows) {
+    ClassGl::DrawCubic(dataXYZT, state.CubeFaceX, state.CubeFaceY, state.CubeFaceZ, row, state.DotSizeCubic,
+                       state.DotSizeAfterCubic);
+  }
   glEnd();
-  glBegin(primitive);
-  PlaceVertex(row + 1);
+  glBegin(state.DrawPrimitive);
+  PlaceVertex(point);
 }
 
 void DrawPointLabel(ClassGl& scene, std::int64_t row) {
@@ -97,7 +117,9 @@ void DrawPointLabel(ClassGl& scene, std::int64_t row) {
 
 /// A line in its event colours, with nothing more: the common plot, and so the shortest loop.
 void DrawEventLine(ClassGl& scene, std::int64_t first, std::int64_t last) {
-  EventWalk& events = scene.Trajectory.Events;
+  TrajectoryState& state = scene.Trajectory;
+  EventWalk& events = state.Events;
+  const bool shadows = USERFLAG.CubicView == 1.0;
   for (std::int64_t i = first; i <= last; ++i) {
     const double* row = dataXYZT[i];
     const double time = row[0];
@@ -105,10 +127,11 @@ void DrawEventLine(ClassGl& scene, std::int64_t first, std::int64_t last) {
     if (row[4] == -1) {
       LiftPen(GL_LINE_STRIP);
     } else if (events.RowMark == 1) {
-      DrawMarkedPoint(GL_LINE_STRIP, row);
+      DrawMarkedPoint(state, i, shadows);
     } else {
       USERFLAG.MovieDataTime = time;
       PlaceVertex(row + 1);
+      if (shadows) DrawShadows(state, GL_LINE_STRIP, dataXYZT, i, row + 1);
     }
   }
 }
@@ -117,6 +140,7 @@ void DrawEventLine(ClassGl& scene, std::int64_t first, std::int64_t last) {
 void DrawAnyRows(ClassGl& scene, std::int64_t first, std::int64_t last) {
   TrajectoryState& state = scene.Trajectory;
   const bool labels = PenUpLabelMode == 1 && PenUpLabelShow == 1;
+  const bool shadows = USERFLAG.CubicView == 1.0;
   RampColour timeColour;
   for (std::int64_t i = first; i <= last; ++i) {
     const double* row = dataXYZT[i];
@@ -129,7 +153,7 @@ void DrawAnyRows(ClassGl& scene, std::int64_t first, std::int64_t last) {
     if (row[4] == -1 && PenUpMode != 1) {
       LiftPen(state.DrawPrimitive);
     } else if (state.Events.RowMark == 1) {
-      DrawMarkedPoint(state.DrawPrimitive, row);
+      DrawMarkedPoint(state, i, shadows);
     } else {
       if (labels) DrawPointLabel(scene, i);
       USERFLAG.MovieDataTime = time;
@@ -137,6 +161,7 @@ void DrawAnyRows(ClassGl& scene, std::int64_t first, std::int64_t last) {
         DrawValueRow(state.Bars, state.Events.ThrustOn, row);
       } else {
         PlaceVertex(row + 1);
+        if (shadows) DrawShadows(state, state.DrawPrimitive, dataXYZT, i, row + 1);
       }
     }
   }

@@ -21,6 +21,10 @@ struct TrajectoryState {
   std::int32_t QuaterColourRow = 0;
   /// The OpenGL primitive that joins the points.
   GLenum DrawPrimitive = GL_LINE_STRIP;
+  /// The faces of the cube that the points throw their shadows on.
+  double CubeFaceX = 0, CubeFaceY = 0, CubeFaceZ = 0;
+  /// Sizes of the shadows' dots, as they are asked for inside glBegin.
+  double DotSizeCubic = 0.1, DotSizeAfterCubic = 0;
 };
 
 /// Calls the trajectory's display list when it holds the row that the frame ends at; false when there is

@@ -24,12 +24,19 @@ fs::path PartName(const fs::path& path) {
   return part;
 }
 
-/// The outcome of writing the bytes under this name; 0 is success.
-int WriteBytes(const fs::path& path, const std::vector<std::uint8_t>& bytes) {
-  errno = 0;
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+using Bytes = std::span<const std::uint8_t>;
+
+void Write(std::ofstream& file, Bytes bytes) {
   if (file)
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
+
+/// The outcome of writing the bytes under this name; 0 is success.
+int WriteBytes(const fs::path& path, Bytes head, Bytes body) {
+  errno = 0;
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  Write(file, head);
+  Write(file, body);
   if (file) file.close();
   if (file) return 0;
   return errno != 0 ? errno : EIO;
@@ -42,7 +49,7 @@ bool Failed(const std::string& path, const std::string& reason, std::string& err
 
 }  // namespace
 
-bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& bytes, std::string& error) {
+bool WriteWholeFile(const std::string& path, Bytes head, Bytes body, std::string& error) {
   const fs::path target = PathFromUtf8(path);
   std::error_code code;
   const fs::file_status status = fs::status(target, code);
@@ -50,12 +57,12 @@ bool WriteWholeFile(const std::string& path, const std::vector<std::uint8_t>& by
 
   const bool isSpecial = fs::exists(status) && !fs::is_regular_file(status);
   if (isSpecial) {
-    const int failure = WriteBytes(target, bytes);
+    const int failure = WriteBytes(target, head, body);
     return failure == 0 || Failed(path, std::generic_category().message(failure), error);
   }
 
   const fs::path part = PartName(target);
-  if (const int failure = WriteBytes(part, bytes); failure != 0) {
+  if (const int failure = WriteBytes(part, head, body); failure != 0) {
     fs::remove(part, code);
     return Failed(path, std::generic_category().message(failure), error);
   }

@@ -35,6 +35,20 @@ class HostCamera {
   /// Position, target and up vector at once.
   virtual void Look(float positionX, float positionY, float positionZ, float targetX, float targetY,
                     float targetZ, float upX, float upY, float upZ) = 0;
+
+  /// Moves the view over the scene, in scene units along the screen: with dx above 0 the picture goes to the
+  /// right, with dy above 0 upward.
+  virtual void Pan(float dx, float dy) = 0;
+  /// Widens the angle of the perspective view for a factor below 1, narrows it above 1.
+  virtual void Zoom(float factor) = 0;
+  /// Moves the eye along its line of sight, in shares of its distance to the target; above 0 it comes nearer.
+  virtual void Dolly(float share) = 0;
+  /// Turns the scene about the screen's X axis, in degrees: above 0 its front goes upward.
+  virtual void Pitch(float degrees) = 0;
+  /// Turns the scene about the screen's Y axis, in degrees: above 0 its front goes to the left.
+  virtual void Yaw(float degrees) = 0;
+  /// Turns the scene about the line of sight, in degrees: above 0 counterclockwise.
+  virtual void Roll(float degrees) = 0;
 };
 
 /// One light of the host control.
@@ -133,6 +147,23 @@ class glCtl {
   /// Takes a display list that the scene calls no more. The host deletes such lists in batches, between
   /// frames; 0 is no list.
   virtual void ReturnList(unsigned list) = 0;
+
+  /// The shape of the mouse pointer over the plot: 0 an arrow, 1 to 15 the pointers that every desktop has,
+  /// 99 the picture `icon` names, 200 to 207 and 210 to 212 those of the mouse modes.
+  virtual void SetMousePointer(int id, const std::string& icon) = 0;
+  /// The wait pointer over the whole program, while it writes a file.
+  virtual void ShowBusy(bool busy) = 0;
+
+  /// The host's own turning of the scene, by a ball under the mouse: it turns while the pointer is that of
+  /// the mode "orbit" (207) and the left button is down. Pixels from the top left corner.
+  virtual void TrackballStart(int button, int x, int y) = 0;
+  virtual void TrackballMove(int x, int y) = 0;
+  virtual void TrackballEnd() = 0;
+
+  /// Makes the context current, with the picture of the last frame as the one that glReadPixels reads. False
+  /// when there is none. EndReading puts the context back.
+  virtual bool BeginReading() = 0;
+  virtual void EndReading() = 0;
 
   /// The device handle that the fonts want.
   virtual int hDC() const = 0;

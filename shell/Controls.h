@@ -157,6 +157,8 @@ class ProgressBar : public Control {
 class Button : public Control {
  public:
   std::string caption;
+  /// Its event routines: a click, and any key while it has the focus.
+  std::function<void()> clicked, keyPressed;
 };
 
 /// An entry of the menu bar or of a menu.

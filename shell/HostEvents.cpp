@@ -1,5 +1,8 @@
 #include "HostEvents.h"
 
+#include <cmath>
+
+#include "MovieDisplay.h"
 #include "UserFlag.h"
 #include "frmMain.h"
 
@@ -15,6 +18,13 @@ class WindowOfScene : public SceneWindow {
 
 WindowOfScene windowOfScene;
 
+constexpr double kZoomStepsOfANotch = 4;
+
+/// The whole number nearest to a place or a count.
+int Pixel(double value) {
+  return static_cast<int>(std::lround(value));
+}
+
 class EventsOfHost : public HostEvents {
  public:
   void Initialise() override { TheScene->init(); }
@@ -24,8 +34,41 @@ class EventsOfHost : public HostEvents {
     PlotWidth = width;
     PlotHeight = height;
   }
-  void Draw() override { TheScene->Draw(); }
+  void Draw() override {
+    ShowMovieProgress();
+    TheScene->Draw();
+  }
   void Overlay() override { TheScene->DrawGDI(); }
+
+  void KeyDown(int code, int shift) override {
+    TheScene->KeyDown(code, shift);
+    glxCtl1->Redraw();
+  }
+  void KeyPress(const std::string& character) override {
+    TheScene->KeyPress(character);
+    glxCtl1->Redraw();
+  }
+  void MouseDown(int button, int shift, double x, double y) override {
+    glxCtl1->TrackballStart(button, Pixel(x), Pixel(y));
+    TheScene->MouseDown(button, shift, x, y);
+  }
+  void MouseMove(int button, int shift, double x, double y) override {
+    glxCtl1->TrackballMove(Pixel(x), Pixel(y));
+    TheScene->MouseMove(button, shift, x, y);
+  }
+  void MouseUp(int button, int shift, double x, double y) override {
+    glxCtl1->TrackballEnd();
+    TheScene->MouseUp(button, shift, x, y);
+  }
+  void DoubleClick() override { glxCtl1_DblClick(); }
+  void Wheel(double notches) override {
+    const int steps = Pixel(std::abs(notches) * kZoomStepsOfANotch);
+    const double gain = notches > 0 ? TheScene->InvRange : -TheScene->InvRange;
+    for (int step = 0; step < steps; ++step)
+      ZoomStep(glxCtl1->Camera(), gain);
+    glxCtl1->Redraw();
+  }
+  void AnimationTick() override { glxCtl1_TimerTick(); }
 };
 
 EventsOfHost eventsOfHost;
@@ -48,7 +91,7 @@ void glxCtl1_DblClick() {
 }
 
 void glxCtl1_TimerTick() {
-  glxCtl1->Redraw();
+  if (TheScene->FrameIsDue()) glxCtl1->Redraw();
   if (!glxCtl1->Tag.empty()) return;
   if (OneShotView == 0) {
     TheScene->CameraSet("ISOnew", 2, 0);

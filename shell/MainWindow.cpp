@@ -1,6 +1,8 @@
 #include <string>
 
 #include "LoaderLink.h"
+#include "LocalView.h"
+#include "NumberText.h"
 #include "OptionPanel.h"
 #include "PlotControls.h"
 #include "frmMain.h"
@@ -35,7 +37,7 @@ void DesignPanel(MainWindow& window) {
   window.Check11.visible = false;
   for (std::size_t i = 0; i < 4; ++i)
     window.Text4[i].text.Design("1");
-  window.Text4[4].text.Design("1.5");
+  window.Text4[4].text.Design(WithDecimalMark("1.5"));
   window.Text4[4].visible = false;
   const char* const colours[] = {"40",  "80", "120", "128", "128", "128", "0",  "255", "0",
                                  "255", "0",  "0",   "50",  "100", "150", "10", "20",  "70"};
@@ -82,6 +84,10 @@ void DesignStrip(MainWindow& window) {
   DesignBar(window.HScroll1, 10000, 100, 10000, true);
   DesignBar(window.HScroll2, 16, 3, 9, true);
   DesignBar(window.HScroll3, 32000, 320, 0, false);
+  DesignBar(window.HScroll4, 1000, 100, 0, true);
+  DesignBar(window.HScroll5, 1000, 100, 1000, false);
+  DesignBar(window.HScroll6, 16, 3, 9, false);
+  DesignBar(window.HScroll7, 100, 10, 1, true);
   DesignBar(window.HScroll8, 32000, 100, 10000, true);
   DesignBar(window.HScroll10, 32000, 1000, 10000, true);
   window.Text2.caption = "Redraw speed";
@@ -89,6 +95,18 @@ void DesignStrip(MainWindow& window) {
   window.Text3.caption = "Redraw";
   window.Text3.toolTip =
       "Redraw  feature: new dynamic plot redrawn from the point you select up to the last one";
+  window.Text10.caption = "Starting";
+  window.Text10.toolTip = "Starting feature: Trace start from the point you select";
+  window.Text11.caption = "Movie";
+  window.Text11.toolTip = "Movie feature: number of frames";
+  window.Text11.visible = false;
+  window.Text12.caption = "Time between frames";
+  window.Text12.toolTip = "Increase or decrease the time between frame for movie";
+  window.Text12.visible = false;
+  window.Command7.caption = "View local";
+  window.Command7.toolTip =
+      "Use a trajectory point (set by the scroll bar) as centre instead of the origin 0,0,0.  For continuous "
+      "moving press the key W while this command has the focus. press again W for coming back";
   window.Text16.caption = "CubicView range and Axis length";
   window.Text18.caption = "Size satellite";
 }
@@ -139,8 +157,14 @@ void TieControls(MainWindow& window) {
   window.HScroll1.value.changed = HScroll1_Change;
   window.HScroll2.value.changed = HScroll2_Change;
   window.HScroll3.value.changed = HScroll3_Change;
+  window.HScroll4.value.changed = HScroll4_Change;
+  window.HScroll5.value.changed = HScroll5_Change;
+  window.HScroll6.value.changed = HScroll6_Change;
+  window.HScroll7.value.changed = HScroll7_Change;
   window.HScroll8.value.changed = HScroll8_Change;
   window.HScroll10.value.changed = HScroll10_Change;
+  window.Command7.clicked = Command7_Click;
+  window.Command7.keyPressed = Command7_KeyDown;
 }
 
 }  // namespace

@@ -165,7 +165,7 @@ void HScroll10_Change() {
 
 void HScroll8_Change() {
   if (!frmMain->HScroll8.Tag.empty()) return;
-  frmMain->Text4[4].text = GeneralNumber(frmMain->HScroll8.value / 1000.0);
+  frmMain->Text4[4].text = WithDecimalMark(GeneralNumber(frmMain->HScroll8.value / 1000.0));
 }
 
 void Command1_Click() {

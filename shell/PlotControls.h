@@ -8,5 +8,12 @@ namespace quorb {
 void HScroll1_Change();
 /// Speed of the redraw: 2 to the power of the value, in rows.
 void HScroll2_Change();
+/// First row that is drawn, in thousandths of the plot. While the time is held the label shows where it
+/// stands.
+void HScroll4_Change();
+/// Number of a movie's frames, 20 for none and for more than 900.
+void HScroll5_Change();
+/// Time between a movie's frames, in tenths of a second from 1.
+void HScroll6_Change();
 
 }  // namespace quorb

@@ -143,7 +143,7 @@ void OptionsPack(int mode) {
   if (mode == 1) {
     OptionSlots.fill("0");
     for (std::size_t slot = 0; slot < fields.size(); ++slot)
-      OptionSlots[slot] = GeneralNumber(*fields[slot]);
+      OptionSlots[slot] = WithDecimalMark(GeneralNumber(*fields[slot]));
     return;
   }
   for (std::size_t slot = kFirstColourSlot; slot <= kLastColourSlot; ++slot) {

@@ -138,6 +138,7 @@ void StartScene(glCtl& host) {
   TheScene = std::make_unique<ClassGl>(host);
   HScroll1_Change();
   HScroll2_Change();
+  TheScene->EditState(static_cast<int>(MouseMode::pan));
   glxCtl1_DblClick();
   host.Animation().SetEnabled(true);
 }
@@ -152,6 +153,7 @@ int WholePixels(double twips) {
 void Form_Load(const std::string& commandLine, glCtl& host) {
   MoonSwitch = 0;
   StartFlag = 1;
+  PenUpLabelShow = 1;
   FirstActivated = ShiftState = LastKeyCode = 0;
   OneShotView = 0;
   ImportDirectory = CurrentDesktop().DataDirectory();
@@ -182,7 +184,7 @@ void Form_Activate() {
     window.Check3.value = 1;
     window.Check4.value = 1;
   }
-  window.Text4[4].text = "1.75";
+  window.Text4[4].text = WithDecimalMark("1.75");
   LocalFollow = 1;
 }
 

@@ -12,6 +12,17 @@
 
 namespace quorb {
 
+/// A label's texts, put aside.
+struct KeptLabel {
+  std::string caption, toolTip;
+};
+
+/// The labels that a movie puts aside.
+struct MovieLabels {
+  bool kept = false;
+  KeptLabel Text2, Text3;
+};
+
 /// The controls of the main window, each with the value that the window is designed with.
 struct MainWindow {
   MainWindow();
@@ -38,9 +49,13 @@ struct MainWindow {
   double sunRayLength = 0;  ///< the length that the clicks on Check1(9) run through
 
   // Strip below the plot.
-  ScrollBar HScroll1, HScroll2, HScroll8, HScroll10;
-  Label Text2, Text3, Text16, Text18;
-  int RedrawTouched = 0;  ///< 1 once the change routine of HScroll1 has run
+  ScrollBar HScroll1, HScroll2, HScroll4, HScroll5, HScroll6, HScroll7, HScroll8, HScroll10;
+  Label Text2, Text3, Text10, Text11, Text12, Text16, Text18;
+  Button Command7;
+  int cubicBeforeLocal = 0;  ///< value of Check9 before the local view went on
+  int RedrawTouched = 0;     ///< 1 once the change routine of HScroll1 has run
+  int MovieTouched = 0;      ///< the same for HScroll5
+  MovieLabels movieLabels;
 
   Menu mnuFile, mnuFExit, mnuEdit, mnuView, mnuHelp, mnuUpdateExcel, mnuOptions, mnuOinteractive;
 };

@@ -18,9 +18,18 @@ void glNewList(GLuint /*list*/, GLenum /*mode*/) {}
 void glEndList() {}
 void glDeleteLists(GLuint /*list*/, GLsizei /*range*/) {}
 void glCallList(GLuint /*list*/) {}
+GLuint glGenLists(GLsizei /*range*/) {
+  return 1;
+}
 
 void glPushMatrix() {}
 void glPopMatrix() {}
+void glTranslatef(GLfloat /*x*/, GLfloat /*y*/, GLfloat /*z*/) {}
+
+void glGetIntegerv(GLenum /*name*/, GLint* /*values*/) {}
+void glPixelStorei(GLenum /*name*/, GLint /*value*/) {}
+void glReadPixels(GLint /*x*/, GLint /*y*/, GLsizei /*width*/, GLsizei /*height*/, GLenum /*format*/,
+                  GLenum /*type*/, GLvoid* /*pixels*/) {}
 
 void glClear(GLbitfield /*mask*/) {}
 void glClearColor(GLclampf /*red*/, GLclampf /*green*/, GLclampf /*blue*/, GLclampf /*alpha*/) {}

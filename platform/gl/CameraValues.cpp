@@ -4,11 +4,11 @@
 #include <cmath>
 #include <cstddef>
 
+#include "Vectors.h"
+
 namespace quorb {
 
 namespace {
-
-using Vector = std::array<double, 3>;
 
 constexpr double kDefaultDepth = 10000.0;
 constexpr double kDefaultField = 45.0;
@@ -16,19 +16,6 @@ constexpr double kNearShareOfFar = 1.0 / 10000.0;
 
 bool AllFinite(double a, double b, double c) {
   return std::isfinite(a) && std::isfinite(b) && std::isfinite(c);
-}
-
-double Length(const Vector& v) {
-  return std::hypot(v[0], v[1], v[2]);
-}
-
-Vector Unit(const Vector& v) {
-  const double length = Length(v);
-  return {v[0] / length, v[1] / length, v[2] / length};
-}
-
-Vector Cross(const Vector& a, const Vector& b) {
-  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
 }
 
 /// Whether the up vector gives a direction on the screen for a unit line of sight.

@@ -45,6 +45,19 @@ class CameraValues : public HostCamera {
   void SetUp(float x, float y, float z) override;
   void Look(float positionX, float positionY, float positionZ, float targetX, float targetY, float targetZ,
             float upX, float upY, float upZ) override;
+  /// The orthographic view moves its window, the perspective one its eye and target.
+  void Pan(float dx, float dy) override;
+  /// The orthographic view scales its window.
+  void Zoom(float factor) override;
+  /// The orthographic view scales its window too, since its picture does not depend on the distance.
+  void Dolly(float share) override;
+  /// Eye and up vector turn about the target, so that the scene stays in view.
+  void Pitch(float degrees) override;
+  void Yaw(float degrees) override;
+  void Roll(float degrees) override;
+
+  /// Turns eye and up vector about the target, by an angle in degrees about an axis through it.
+  void TurnAboutTarget(const std::array<double, 3>& axis, double degrees);
 
   const OrthoWindow& Window() const { return window; }
 
@@ -64,6 +77,8 @@ class CameraValues : public HostCamera {
   double PerspectiveField() const;
 
  private:
+  void ScaleWindow(double factor);
+
   using Triple = std::array<float, 3>;
 
   OrthoWindow window;

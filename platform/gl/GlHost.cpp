@@ -18,6 +18,10 @@ namespace {
 
 constexpr std::size_t kListBatch = 256;
 constexpr int kGridMeshes = 20;
+constexpr int kLeftButton = 1;
+constexpr int kOrbitPointer = 207;
+/// A drag over the whole height of the view turns the scene by this.
+constexpr double kDegreesOverTheView = 180;
 
 void SetSwitch(GLenum name, bool on) {
   if (on) {
@@ -42,6 +46,23 @@ HostMaterial& GlHost::Materials(int number) {
 
 void GlHost::ReturnList(unsigned list) {
   if (list != 0) returnedLists.push_back(list);
+}
+
+void GlHost::SetMousePointer(int id, const std::string& /*icon*/) {
+  mousePointer = id;
+}
+
+void GlHost::TrackballStart(int button, int x, int y) {
+  trackball = {button == kLeftButton && mousePointer == kOrbitPointer, x, y};
+}
+
+void GlHost::TrackballMove(int x, int y) {
+  if (!trackball.down) return;
+  const double degreesPerPixel = kDegreesOverTheView / std::max(Height(), 1);
+  camera.Yaw(static_cast<float>((trackball.x - x) * degreesPerPixel));
+  camera.Pitch(static_cast<float>((trackball.y - y) * degreesPerPixel));
+  trackball.x = x;
+  trackball.y = y;
 }
 
 void GlHost::SetPixelRatio(double ratio) {

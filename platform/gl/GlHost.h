@@ -47,6 +47,15 @@ class GlHost : public glCtl {
   HostAnimation& Animation() override { return animation; }
   void ReturnList(unsigned list) override;
 
+  /// Keeps the shape; a host with a pointer shows it.
+  void SetMousePointer(int id, const std::string& icon) override;
+  void ShowBusy(bool) override {}
+  int MousePointer() const { return mousePointer; }
+
+  void TrackballStart(int button, int x, int y) override;
+  void TrackballMove(int x, int y) override;
+  void TrackballEnd() override { trackball.down = false; }
+
   /// No device handle is needed on this platform: always 0.
   int hDC() const override { return 0; }
 
@@ -75,7 +84,15 @@ class GlHost : public glCtl {
   void SetLights() const;
   void SetSwitches() const;
 
+  struct Trackball {
+    bool down = false;
+    int x = 0;
+    int y = 0;
+  };
+
   CameraValues camera;
+  Trackball trackball;
+  int mousePointer = 0;
   std::array<LightValues, kLightCount> lights;
   LightValues lightOfNoNumber;
   std::array<GlMaterial, kMaterialCount> materials;

@@ -44,7 +44,7 @@ bool WritePng(const std::string& path, const PixelImage& image, std::string& err
     error = "The file \"" + path + "\" cannot be written: " + error + ".";
     return false;
   }
-  return WriteWholeFile(path, bytes, error);
+  return WriteWholeFile(path, bytes, {}, error);
 }
 
 bool WriteBmp(const std::string& path, const PixelImage& image, std::string& error) {

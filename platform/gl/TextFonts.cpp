@@ -92,21 +92,28 @@ TextFonts::~TextFonts() = default;
 
 void TextFonts::NewOutlineFont(int /*deviceHandle*/, int& handle, const std::string& face, bool bold,
                                bool italic, double extrusion) {
-  handle = HandleOf(face, bold, italic, Kind::outline, static_cast<int>(kOutlineSize), extrusion);
+  handle = HandleOf({face, bold, italic, Kind::outline, static_cast<int>(kOutlineSize), extrusion});
 }
 
 void TextFonts::NewBitmapFont(int /*deviceHandle*/, int& handle, const std::string& face, bool bold,
                               bool italic, int size) {
-  handle = HandleOf(face, bold, italic, Kind::bitmap, size, 0.0);
+  handle = HandleOf({face, bold, italic, Kind::bitmap, size, 0.0});
 }
 
-int TextFonts::HandleOf(const std::string& face, bool bold, bool italic, Kind kind, int size,
-                        double extrusion) {
-  const Key key(FindFontFile(face, bold, italic), kind, size, extrusion);
+int TextFonts::HandleOf(const Request& request) {
+  const auto asked = requests.find(request);
+  if (asked != requests.end()) return asked->second;
+  const auto& [face, bold, italic, kind, size, extrusion] = request;
+  const int handle = HandleOfFile({FindFontFile(face, bold, italic), kind, size, extrusion}, face);
+  requests.emplace(request, handle);
+  return handle;
+}
+
+int TextFonts::HandleOfFile(const Key& key, const std::string& face) {
   const auto known = handles.find(key);
   if (known != handles.end()) return known->second;
 
-  Font font{kind, Load(key)};
+  Font font{std::get<Kind>(key), Load(key)};
   if (!font.face) std::cerr << "No font can be loaded for \"" << face << "\": its texts are not shown.\n";
   fonts.push_back(std::move(font));
   const int handle = static_cast<int>(fonts.size());
@@ -194,6 +201,7 @@ void TextFonts::Release() {
   for (Font& font : fonts)
     font.face.reset();
   handles.clear();
+  requests.clear();
 }
 
 double TextFonts::Ascender(int font) const {

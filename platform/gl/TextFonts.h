@@ -54,6 +54,8 @@ class TextFonts : public HostText {
   enum class Kind { outline, bitmap };
   /// File, kind, size in points, share of extrusion.
   using Key = std::tuple<std::string, Kind, int, double>;
+  /// What a caller asks for: name of the face, bold, italic, and the rest of the key.
+  using Request = std::tuple<std::string, bool, bool, Kind, int, double>;
   struct Font {
     Kind kind = Kind::outline;
     std::unique_ptr<FTFont> face;
@@ -65,7 +67,8 @@ class TextFonts : public HostText {
     int colour = 0;
   };
 
-  int HandleOf(const std::string& face, bool bold, bool italic, Kind kind, int size, double extrusion);
+  int HandleOf(const Request& request);
+  int HandleOfFile(const Key& key, const std::string& face);
   std::unique_ptr<FTFont> Load(const Key& key) const;
   FTFont* Face(int font, Kind kind) const;
 
@@ -73,6 +76,7 @@ class TextFonts : public HostText {
   bool antialiasing = false;
   std::vector<Font> fonts;
   std::map<Key, int> handles;
+  std::map<Request, int> requests;  // looking for the file of a face takes longer than drawing a text
   std::vector<KeptText> keptTexts;
 };
 

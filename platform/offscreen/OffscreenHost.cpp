@@ -63,6 +63,14 @@ void OffscreenHost::Frame() {
   DeleteReturnedLists();
 }
 
+bool OffscreenHost::BeginReading() {
+  if (events == nullptr) return false;
+  context->MakeCurrent();
+  target.Bind();
+  glViewport(0, 0, width, height);
+  return true;
+}
+
 PixelImage OffscreenHost::Pixels() const {
   context->MakeCurrent();
   return target.Pixels();

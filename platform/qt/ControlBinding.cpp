@@ -7,6 +7,9 @@ namespace quorb {
 
 namespace {
 
+/// Characters at the end of a log that are shown; setting more of them would hold the window up.
+constexpr int kLongestShownLog = 200000;
+
 QString Text(const std::string& text) {
   return QString::fromStdString(text);
 }
@@ -54,10 +57,23 @@ void BindLog(QPlainTextEdit& widget, TextBox& control) {
   widget.setReadOnly(true);
   control.refresh = [&widget, &control] {
     ShowState(widget, control);
-    widget.setPlainText(Text(control.text));
+    if (!control.visible) return;
+    widget.setPlainText(Text(control.text).right(kLongestShownLog));
     widget.moveCursor(QTextCursor::End);
   };
   control.refresh();
+}
+
+void BindButton(CommandButton& widget, Button& control) {
+  widget.setText(Text(control.caption));
+  control.refresh = [&widget, &control] { ShowState(widget, control); };
+  control.refresh();
+  QObject::connect(&widget, &QPushButton::clicked, &widget, [&control] {
+    if (control.clicked) control.clicked();
+  });
+  widget.keyPressed = [&control] {
+    if (control.keyPressed) control.keyPressed();
+  };
 }
 
 void BindProgress(QProgressBar& widget, ProgressBar& control) {

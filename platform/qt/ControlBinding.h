@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QScrollBar>
 
+#include "CommandButton.h"
 #include "Controls.h"
 
 namespace quorb {
@@ -21,6 +22,8 @@ void BindLabel(QLabel& widget, Label& control);
 void BindLine(QLabel& widget, TextBox& control);
 /// A text of many lines that is only shown; its end stays in sight.
 void BindLog(QPlainTextEdit& widget, TextBox& control);
+/// Its caption, its click and its keys.
+void BindButton(CommandButton& widget, Button& control);
 void BindProgress(QProgressBar& widget, ProgressBar& control);
 void BindMenu(QMenu& widget, Menu& control);
 /// `chosen` runs when the user chooses the entry.

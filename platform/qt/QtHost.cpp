@@ -1,8 +1,16 @@
 #include "QtHost.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QSurfaceFormat>
+#include <QWheelEvent>
 #include <cmath>
+
+#include "KeyCodes.h"
+#include "PictureReader.h"
+#include "PointerShapes.h"
 
 namespace quorb {
 
@@ -10,11 +18,22 @@ namespace {
 
 constexpr int kTickMilliseconds = 16;
 constexpr int kSamples = 4;
+/// What a wheel tells for one notch, and the part of it that is passed on; finer turns add up to that.
+constexpr double kNotch = 120;
+constexpr int kPartOfNotch = 30;
 
 QSize DevicePixels(const QWidget& widget) {
   const double ratio = widget.devicePixelRatioF();
   return {static_cast<int>(std::lround(widget.width() * ratio)),
           static_cast<int>(std::lround(widget.height() * ratio))};
+}
+
+/// The button whose press or release is told, or the one held during a move.
+int HeldButton(const QMouseEvent& event) {
+  for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+    if (event.buttons().testFlag(button)) return ButtonOf(button);
+  }
+  return 0;
 }
 
 }  // namespace
@@ -29,14 +48,35 @@ class QtHost : public GlHost {
   int Width() const override { return DevicePixels(widget_).width(); }
   int Height() const override { return DevicePixels(widget_).height(); }
 
+  void SetMousePointer(int id, const std::string& icon) override {
+    GlHost::SetMousePointer(id, icon);
+    widget_.setCursor(PointerShape(id, icon));
+  }
+
+  void ShowBusy(bool busy) override {
+    if (busy) {
+      QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+      QGuiApplication::restoreOverrideCursor();
+    }
+  }
+
+  bool BeginReading() override { return reader_.Begin(widget_, DevicePixels(widget_)); }
+  void EndReading() override { reader_.End(widget_); }
+
+  void ReleaseContext() {
+    reader_.Release();
+    GlHost::ReleaseContext();
+  }
+
   using GlHost::BeginFrame;
   using GlHost::DeleteReturnedLists;
   using GlHost::EndFrame;
-  using GlHost::ReleaseContext;
   using GlHost::SetPixelRatio;
 
  private:
   PlotWidget& widget_;
+  PictureReader reader_;
 };
 
 PlotWidget::PlotWidget(QWidget* parent) : QOpenGLWidget(parent) {
@@ -50,7 +90,7 @@ PlotWidget::PlotWidget(QWidget* parent) : QOpenGLWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setMinimumSize(1, 1);
   connect(&ticks_, &QTimer::timeout, this, [this] {
-    if (animationTick) animationTick();
+    if (events_ != nullptr) events_->AnimationTick();
   });
 }
 
@@ -100,8 +140,42 @@ void PlotWidget::paintGL() {
   host_->DeleteReturnedLists();
 }
 
-void PlotWidget::mouseDoubleClickEvent(QMouseEvent*) {
-  if (doubleClick) doubleClick();
+void PlotWidget::keyPressEvent(QKeyEvent* event) {
+  if (events_ == nullptr) return;
+  const int code = KeyCodeOf(event->key());
+  if (code != 0) events_->KeyDown(code, ShiftMaskOf(event->modifiers()));
+  const bool isCharacter = !event->text().isEmpty() && event->key() != Qt::Key_Delete;
+  if (isCharacter) events_->KeyPress(event->text().toStdString());
+}
+
+void PlotWidget::mousePressEvent(QMouseEvent* event) {
+  const QPointF place = event->position() * devicePixelRatioF();
+  if (events_ != nullptr)
+    events_->MouseDown(ButtonOf(event->button()), ShiftMaskOf(event->modifiers()), place.x(), place.y());
+}
+
+void PlotWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF place = event->position() * devicePixelRatioF();
+  if (events_ != nullptr)
+    events_->MouseMove(HeldButton(*event), ShiftMaskOf(event->modifiers()), place.x(), place.y());
+}
+
+void PlotWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointF place = event->position() * devicePixelRatioF();
+  if (events_ != nullptr)
+    events_->MouseUp(ButtonOf(event->button()), ShiftMaskOf(event->modifiers()), place.x(), place.y());
+}
+
+void PlotWidget::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
+  if (events_ != nullptr) events_->DoubleClick();
+}
+
+void PlotWidget::wheelEvent(QWheelEvent* event) {
+  wheelRest_ += event->angleDelta().y();
+  const int parts = wheelRest_ / kPartOfNotch;
+  wheelRest_ -= parts * kPartOfNotch;
+  if (events_ != nullptr && parts != 0) events_->Wheel(parts * kPartOfNotch / kNotch);
+  event->accept();
 }
 
 }  // namespace quorb

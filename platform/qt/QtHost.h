@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QOpenGLWidget>
 #include <QTimer>
-#include <functional>
+#include <memory>
 
 #include "GlHost.h"
 #include "HostEvents.h"
@@ -24,14 +23,16 @@ class PlotWidget : public QOpenGLWidget {
   /// Sends the host's events to `newEvents` from here on; to be called before the widget is shown.
   void Start(HostEvents& newEvents);
 
-  /// What a double click and a tick of the animation run.
-  std::function<void()> doubleClick, animationTick;
-
  protected:
   void initializeGL() override;
   void resizeGL(int width, int height) override;
   void paintGL() override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   void ReleaseContext();
@@ -39,6 +40,7 @@ class PlotWidget : public QOpenGLWidget {
   std::unique_ptr<QtHost> host_;
   HostEvents* events_ = nullptr;
   QTimer ticks_;
+  int wheelRest_ = 0;
 };
 
 }  // namespace quorb

@@ -11,6 +11,9 @@
 #include <cmath>
 
 #include "ControlBinding.h"
+#include "DueTicks.h"
+#include "KeyCodes.h"
+#include "UserFlag.h"
 #include "frmMain.h"
 
 namespace quorb {
@@ -20,6 +23,7 @@ namespace {
 constexpr double kTwipsPerPixel = 15;
 constexpr int kBarWidth = 170;
 constexpr int kBarHeight = 15;
+constexpr int kButtonHeight = 19;
 constexpr int kStripHeight = 60;
 
 int Pixels(double twips) {
@@ -30,38 +34,6 @@ QRect PlaceOf(const Control& control) {
   return {Pixels(control.Left), Pixels(control.Top), Pixels(control.Width), Pixels(control.Height)};
 }
 
-// The codes by which the window's routines know the keys.
-int KeyCodeOf(int key) {
-  switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return 13;
-    case Qt::Key_PageUp:
-      return 33;
-    case Qt::Key_PageDown:
-      return 34;
-    case Qt::Key_End:
-      return 35;
-    case Qt::Key_Home:
-      return 36;
-    case Qt::Key_Left:
-      return 37;
-    case Qt::Key_Up:
-      return 38;
-    case Qt::Key_Right:
-      return 39;
-    case Qt::Key_Down:
-      return 40;
-    default:
-      return key >= Qt::Key_0 && key <= Qt::Key_Z ? key : 0;
-  }
-}
-
-int ShiftMaskOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) + (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
-         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
-}
-
 }  // namespace
 
 ViewerWindow::ViewerWindow() {
@@ -70,11 +42,20 @@ ViewerWindow::ViewerWindow() {
   setCentralWidget(canvas_);
   canvas_->installEventFilter(this);
   qApp->installEventFilter(this);
+  runTime_.start();
   updateTimer_.setTimerType(Qt::PreciseTimer);
-  connect(&updateTimer_, &QTimer::timeout, this, [] { TheScene->TheUpdateTimer_ThatTime(); });
+  connect(&updateTimer_, &QTimer::timeout, this, [this] { RunDueTicks(); });
   connect(plot_, &QOpenGLWidget::frameSwapped, this, [this] {
     if (frameShown) frameShown();
   });
+}
+
+void ViewerWindow::RunDueTicks() {
+  const std::int64_t now = runTime_.elapsed();
+  const int due = DueTicks(now - lastTick_, updateTimer_.interval(), USERFLAG.MovieFrameCount > 0);
+  if (due > 0) lastTick_ = now;
+  for (int tick = 0; tick < due; ++tick)
+    TheScene->TheUpdateTimer_ThatTime();
 }
 
 ViewerWindow::~ViewerWindow() {
@@ -83,8 +64,6 @@ ViewerWindow::~ViewerWindow() {
 }
 
 void ViewerWindow::Load(const std::string& commandLine) {
-  plot_->doubleClick = glxCtl1_DblClick;
-  plot_->animationTick = glxCtl1_TimerTick;
   Form_Load(commandLine, plot_->Host());
   TheScene->TheUpdateTimer.changed = [this](int milliseconds) {
     if (milliseconds > 0) {
@@ -111,8 +90,10 @@ void ViewerWindow::MakeWidgets() {
   rows->setContentsMargins(8, 2, 8, 2);
   rows->setSpacing(2);
   auto* bars = new QHBoxLayout;
+  bars->addWidget(MakeBar(window.HScroll4, window.Text10));
   bars->addWidget(MakeBar(window.HScroll1, window.Text3));
   bars->addWidget(MakeBar(window.HScroll2, window.Text2));
+  bars->addWidget(MakeLocalView());
   bars->addWidget(MakeBar(window.HScroll8, window.Text16));
   bars->addWidget(MakeBar(window.HScroll10, window.Text18));
   bars->addStretch(1);
@@ -137,12 +118,30 @@ QWidget* ViewerWindow::MakeBar(ScrollBar& bar, Label& label) {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   auto* text = new QLabel(holder);
-  auto* slider = new QScrollBar(Qt::Horizontal, holder);
-  slider->setFixedSize(kBarWidth, kBarHeight);
   BindLabel(*text, label);
-  BindBar(*slider, bar);
   column->addWidget(text);
-  column->addWidget(slider);
+  column->addWidget(MakeSlider(bar, holder));
+  return holder;
+}
+
+QScrollBar* ViewerWindow::MakeSlider(ScrollBar& bar, QWidget* parent) {
+  auto* slider = new QScrollBar(Qt::Horizontal, parent);
+  slider->setFixedSize(kBarWidth, kBarHeight);
+  BindBar(*slider, bar);
+  connect(slider, &QScrollBar::valueChanged, this, [] { glxCtl1->Redraw(); });
+  return slider;
+}
+
+QWidget* ViewerWindow::MakeLocalView() {
+  auto* holder = new QWidget(strip_);
+  auto* column = new QVBoxLayout(holder);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  auto* button = new CommandButton(holder);
+  button->setFixedHeight(kButtonHeight);
+  BindButton(*button, frmMain->Command7);
+  column->addWidget(button);
+  column->addWidget(MakeSlider(frmMain->HScroll7, holder));
   return holder;
 }
 
@@ -197,6 +196,8 @@ bool ViewerWindow::TakesKeysFirst(const QObject& watched) const {
 }
 
 bool ViewerWindow::PassKey(QKeyEvent& event, bool down) {
+  if (redirecting_) return false;
+  const bool plotHadFocus = plot_->hasFocus();
   int code = KeyCodeOf(event.key());
   const bool known = code != 0;
   const int shift = ShiftMaskOf(event.modifiers());
@@ -205,7 +206,12 @@ bool ViewerWindow::PassKey(QKeyEvent& event, bool down) {
   } else {
     Form_KeyUp(code, shift);
   }
-  return known && code == 0;
+  if (known && code == 0) return true;
+  if (!down || plotHadFocus || !plot_->hasFocus()) return false;
+  redirecting_ = true;
+  QApplication::sendEvent(plot_, &event);
+  redirecting_ = false;
+  return true;
 }
 
 }  // namespace quorb

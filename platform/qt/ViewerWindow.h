@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
 #include <string>
@@ -8,6 +9,7 @@
 
 class QLabel;
 class QPlainTextEdit;
+class QScrollBar;
 
 namespace quorb {
 
@@ -32,11 +34,15 @@ class ViewerWindow : public QMainWindow {
  private:
   void MakeWidgets();
   QWidget* MakeBar(class ScrollBar& bar, class Label& label);
+  QScrollBar* MakeSlider(class ScrollBar& bar, QWidget* parent);
+  QWidget* MakeLocalView();
   void MakeMenus();
+  void RunDueTicks();
   void LayOut();
   void PlaceWidgets();
   bool TakesKeysFirst(const QObject& watched) const;
-  /// Passes a key to the form; true when the form has dealt with it and the focused control must not see it.
+  /// Passes a key to the form; true when the focused control must not see it, since the form has dealt with
+  /// it or has given the focus, and the key, to the plot.
   bool PassKey(class QKeyEvent& event, bool down);
 
   QWidget* canvas_ = nullptr;
@@ -44,6 +50,9 @@ class ViewerWindow : public QMainWindow {
   QWidget* strip_ = nullptr;
   QPlainTextEdit* log_ = nullptr;
   QTimer updateTimer_;
+  QElapsedTimer runTime_;
+  std::int64_t lastTick_ = 0;
+  bool redirecting_ = false;  ///< a key that gave the plot the focus is on its way to the plot
   bool activated_ = false;
 };
 

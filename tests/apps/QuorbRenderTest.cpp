@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 #include "PictureCompare.h"
 #include "ProgramRun.h"
 
@@ -48,7 +51,7 @@ std::string Spiral(const std::string& formula, const std::string& tail = "") {
 TEST_F(QuorbRender, HelpAndVersionAreAnsweredBeforeAnythingElse) {
   EXPECT_EQ(Run("--help").out,
             "Usage: quorb-render FILE -o OUT.png|OUT.bmp [--size WxH] [--row N] [--view VIEW]\n"
-            "                   [--set FIELD=VALUE]...\n"
+            "                   [--set FIELD=VALUE]... [--frames N --every ROWS]\n"
             "\n"
             "Draws the picture that the viewer shows of a data file, without a window.\n"
             "\n"
@@ -56,10 +59,14 @@ TEST_F(QuorbRender, HelpAndVersionAreAnsweredBeforeAnythingElse) {
             "  --size WxH         width and height in pixels (default 1280x800)\n"
             "  --row N            the last row that is drawn, from 0 (default: the last of all)\n"
             "  --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;\n"
-            "                     proj:STEP the eight projections; iso the plain isometric view\n"
+            "                     isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the\n"
+            "                     eight projections, 0 to 7; iso the plain isometric view\n"
             "                     (STEP is 0 when left out; without --view from above Z)\n"
             "  --set FIELD=VALUE  sets an option of the record USERFLAG, such as\n"
             "                     ThicknessLinePlot=3 or ColourBackground=255,255,255\n"
+            "  --frames N         a series of N pictures, OUT1.png, OUT2.png and so on, from\n"
+            "                     row 0 or the row of --row on; each shows ...\n"
+            "  --every ROWS       ... this many rows more than the one before, up to the last\n"
             "  --help             show this text\n"
             "  --version          show the version\n"
             "\n"
@@ -113,6 +120,92 @@ TEST_F(QuorbRender, WhiteBackground) {
       "--set ColourBackground=255,255,255 --set ColourPlotNominal=0,0,200 --set ThicknessLinePlot=2");
 }
 
+// Two turns of a coil round the Z axis, 81 points.
+std::string Coil(const std::string& formula) {
+  std::string rows;
+  for (int i = 0; i <= 80; ++i) {
+    const double angle = i * 0.1570796;
+    rows += std::to_string(20 * std::cos(angle)) + "\t" + std::to_string(20 * std::sin(angle)) + "\t" +
+            std::to_string(i * 0.25) + "\t" + std::to_string(45000 + i) + "\r\n";
+  }
+  return DataFileText(formula, rows);
+}
+
+constexpr const char* kCoilFormula = "=0.5+LEN(\"Coil kmday\")+MAX(A2:C82)+MAX(D2:D82)";
+
+TEST_F(QuorbRender, EachFamilyOfViewsHasItsPicture) {
+  for (const char* view :
+       {"iso", "isonew:0", "isonew:3", "isonewplus:0", "isonewplus:4", "proj:0", "proj:7"}) {
+    std::string name = std::string("view-") + view;
+    std::replace(name.begin(), name.end(), ':', '-');
+    SCOPED_TRACE(name);
+    ExpectPicture(name, Coil(kCoilFormula), std::string("--set LengthAxisFactor=1.2 --view ") + view);
+  }
+}
+
+TEST_F(QuorbRender, TheCubeHasThreeWallsAndAShadowOnEach) {
+  ExpectPicture("cube", Coil(kCoilFormula),
+                "--view isonew:1 --set CubicView=1 --set LengthAxisFactor=0.9 --set ThicknessLinePlot=2");
+}
+
+TEST_F(QuorbRender, LargeCharactersAreLarger) {
+  ExpectPicture("large-characters", Coil(kCoilFormula),
+                "--view isonew:1 --set LargeCharacters=1 --set ColourAxisLabels=255,255,255");
+}
+
+TEST_F(QuorbRender, TheLocalFrameIsSeenFromARowOfTheTrajectory) {
+  ExpectPicture("local-frame", Coil(kCoilFormula),
+                "--view isonew:1 --set NedInput=1 --set LocalCentreIndex=10 --set LengthAxisFactor=1");
+}
+
+TEST_F(QuorbRender, SeparateObjectsCarryTheirLabels) {
+  ExpectPicture("labels",
+                DataFileText("=0.5+LEN(\"PENUPLABEL kmday\")+MAX(A2:C4)+MAX(D2:D4)+MAX(E2:F4)",
+                             "-20\t-10\t0\t1\t1\tParis\r\n10\t20\t0\t2\t2\tRome\r\n0\t0\t0\t3\t3\tHere\r\n"));
+}
+
+// ---- series -----------------------------------------------------------------------------------------------
+
+TEST_F(QuorbRender, ASeriesGoesOnByItsRowsUpToTheLast) {
+  run_.Write("plot.qbv", Coil(kCoilFormula));
+  const ProgramOutcome outcome = Run("plot.qbv -o film.png --size 64x48 --frames 4 --every 30 --row 10");
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_EQ(outcome.err, "") << "no progress where no terminal is";
+  for (const char* pair : {"1 10", "2 40", "3 70", "4 80"}) {
+    const std::string number(pair, 1);
+    const std::string row(pair + 2);
+    ASSERT_EQ(Run("plot.qbv -o single.png --size 64x48 --row " + row).status, 0);
+    const ProgramOutcome compared =
+        run_.Run("/usr/bin/compare", "-metric AE film" + number + ".png single.png null:");
+    EXPECT_EQ(compared.err, "0") << pair;
+  }
+  EXPECT_FALSE(std::filesystem::exists(run_.File("film5.png")));
+  EXPECT_FALSE(std::filesystem::exists(run_.File("film.png")));
+}
+
+TEST_F(QuorbRender, ASeriesWithoutARowStartsAtTheFirst) {
+  run_.Write("plot.qbv", Coil(kCoilFormula));
+  ASSERT_EQ(Run("plot.qbv -o film.bmp --size 64x48 --frames 1 --every 1").status, 0);
+  ASSERT_EQ(Run("plot.qbv -o single.bmp --size 64x48 --row 0").status, 0);
+  EXPECT_EQ(ContentsOfFile(run_.File("film1.bmp")), ContentsOfFile(run_.File("single.bmp")));
+}
+
+TEST_F(QuorbRender, OnATerminalOneLineTellsTheProgressOfASeries) {
+  run_.Write("plot.qbv", Coil(kCoilFormula));
+  const ProgramOutcome outcome =
+      run_.Run("/usr/bin/script", "-qec \"'" QUORB_RENDER_PROGRAM
+                                  "' plot.qbv -o film.png --size 64x48 --frames 2 --every 1\" /dev/null");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.out, "\rpicture 1 of 2\rpicture 2 of 2\r\n");
+}
+
+TEST_F(QuorbRender, APictureOfASeriesThatCannotBeWrittenEndsIt) {
+  run_.Write("plot.qbv", Coil(kCoilFormula));
+  const ProgramOutcome outcome = Run("plot.qbv -o nowhere/film.png --size 64x48 --frames 3 --every 1");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_THAT(outcome.err, HasSubstr("nowhere/film1.png"));
+}
+
 TEST_F(QuorbRender, BothFormatsShowTheSamePicture) {
   run_.Write("plot.qbv", Spiral("=0.5+LEN(\"Spiral kmday\")+MAX(A2:C10)"));
   ASSERT_EQ(Run("plot.qbv -o out.png --size 101x60").status, 0);
@@ -152,7 +245,10 @@ TEST_F(QuorbRender, WrongCallsGiveStatusTwo) {
         "plot.qbv -o out.png --size 0x10", "plot.qbv -o out.png --size 20000x10",
         "plot.qbv -o out.png --row -1", "plot.qbv -o out.png --row x", "plot.qbv -o out.png --set Nothing=1",
         "plot.qbv -o out.png --set ColourAxis=1", "plot.qbv -o out.png --set CubicView=",
-        "plot.qbv -o out.png --view top", "plot.qbv -o out.png --view proj:8"}) {
+        "plot.qbv -o out.png --view top", "plot.qbv -o out.png --view proj:8",
+        "plot.qbv -o out.png --view isonewplus:6", "plot.qbv -o out.png --frames 2",
+        "plot.qbv -o out.png --every 2", "plot.qbv -o out.png --frames 0 --every 2",
+        "plot.qbv -o out.png --frames 2 --every 0", "plot.qbv -o out.png --frames x --every 1"}) {
     const ProgramOutcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_THAT(outcome.err, HasSubstr("(see quorb-render --help)")) << arguments;

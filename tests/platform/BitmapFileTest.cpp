@@ -1,16 +1,15 @@
 #include "BitmapFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <array>
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
 
+#include "FileSizeLimit.h"
 #include "Image.h"
 #include "TemporaryDirectory.h"
 #include "WholeFile.h"
@@ -35,27 +34,6 @@ std::string OutputOf(const std::string& command) {
   return output;
 }
 
-/// A limit on the size of files, as a full disk sets one, until the end of the scope.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t most) {
-    oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit limit{most, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, oldHandler);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit before{};
-  void (*oldHandler)(int) = nullptr;
-};
-
 TEST(BitmapFile, WidthOf101PixelsGivesRowsOf304BytesWithAPadOf1) {
   EXPECT_EQ(BitmapRowBytes(101), 304U);
 }
@@ -68,24 +46,23 @@ TEST(BitmapFile, RowsAreRaisedToAMultipleOfFour) {
   EXPECT_EQ(BitmapRowBytes(-3), 0U);
 }
 
-TEST(BitmapFile, BytesOfATwoByOnePicture) {
+TEST(BitmapFile, HeadOfATwoByOnePicture) {
   const Bytes expected{'B',  'M',  66, 0, 0,    0,    0, 0,
-                       0,    0,    58, 0, 0,    0,            // 8 pixel bytes + 58, reserved, offset
-                       40,   0,    0,  0,                     // size of the info header
-                       2,    0,    0,  0, 1,    0,    0, 0,   // width, height
-                       1,    0,    24, 0, 0,    0,    0, 0,   // planes, bits, no compression
-                       8,    0,    0,  0,                     // pixel bytes
-                       0x88, 0x0B, 0,  0, 0x88, 0x0B, 0, 0,   // 2952 pixels per metre both ways
-                       0,    0,    0,  0, 0,    0,    0, 0,   // colours used, important
-                       0,    0,    0,  0,                     // empty colour slot
-                       1,    2,    3,  4, 5,    6,    0, 0};  // two pixels, pad
-  EXPECT_EQ(BitmapFileBytes(2, 1, {1, 2, 3, 4, 5, 6, 0, 0}), expected);
+                       0,    0,    58, 0, 0,    0,           // 8 pixel bytes + 58, reserved, offset
+                       40,   0,    0,  0,                    // size of the info header
+                       2,    0,    0,  0, 1,    0,    0, 0,  // width, height
+                       1,    0,    24, 0, 0,    0,    0, 0,  // planes, bits, no compression
+                       8,    0,    0,  0,                    // pixel bytes
+                       0x88, 0x0B, 0,  0, 0x88, 0x0B, 0, 0,  // 2952 pixels per metre both ways
+                       0,    0,    0,  0, 0,    0,    0, 0,  // colours used, important
+                       0,    0,    0,  0};                   // empty colour slot
+  EXPECT_EQ(BitmapFileHead(2, 1), expected);
 }
 
-TEST(BitmapFile, SizesThatDoNotFitGiveNoBytes) {
-  EXPECT_TRUE(BitmapFileBytes(0, 1, {}).empty());
-  EXPECT_TRUE(BitmapFileBytes(1, -1, {1, 2, 3, 0}).empty());
-  EXPECT_TRUE(BitmapFileBytes(2, 1, {1, 2, 3, 0}).empty());
+TEST(BitmapFile, SizesThatDoNotFitGiveNoHead) {
+  EXPECT_TRUE(BitmapFileHead(0, 1).empty());
+  EXPECT_TRUE(BitmapFileHead(1, -1).empty());
+  EXPECT_TRUE(BitmapFileHead(40000, 40000).empty());
 }
 
 TEST(BitmapFile, OtherProgramsOpenIt) {
@@ -106,7 +83,7 @@ TEST(BitmapFile, ReplacesTheFileOfThatName) {
   const TemporaryDirectory directory;
   const std::string path = directory.File("é.bmp");
   std::string error;
-  ASSERT_TRUE(WriteWholeFile(path, Bytes(5000, 7), error)) << error;
+  ASSERT_TRUE(WriteWholeFile(path, Bytes(5000, 7), {}, error)) << error;
   ASSERT_TRUE(WriteBitmapFile(path, 1, 1, {1, 2, 3, 0}, error)) << error;
   EXPECT_EQ(ReadBytes(path).size(), 62U);
   EXPECT_EQ(directory.EntryCount(), 1U);
@@ -150,15 +127,15 @@ TEST(WholeFile, DirectoryIsNotReplaced) {
   const std::string path = directory.File("sub");
   std::filesystem::create_directory(path);
   std::string error;
-  EXPECT_FALSE(WriteWholeFile(path, {1}, error));
+  EXPECT_FALSE(WriteWholeFile(path, Bytes(1, 1), {}, error));
   EXPECT_EQ(error, "The file \"" + path + "\" cannot be written: it is a directory.");
   EXPECT_TRUE(std::filesystem::is_directory(path));
 }
 
 TEST(WholeFile, DeviceIsWrittenAndStaysADevice) {
   std::string error;
-  EXPECT_TRUE(WriteWholeFile("/dev/null", {1, 2, 3}, error)) << error;
-  EXPECT_FALSE(WriteWholeFile("/dev/full", Bytes(100000, 1), error));
+  EXPECT_TRUE(WriteWholeFile("/dev/null", Bytes(3, 1), {}, error)) << error;
+  EXPECT_FALSE(WriteWholeFile("/dev/full", Bytes(100000, 1), {}, error));
   EXPECT_EQ(error, "The file \"/dev/full\" cannot be written: No space left on device.");
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
 }

@@ -16,6 +16,11 @@ TEST_F(ClassGlTest, StartsWithItsInitialValues) {
   EXPECT_EQ(fresh.CURRINDEXMINI, 0);
   EXPECT_EQ(fresh.StartFraction, 0);
   EXPECT_FALSE(fresh.ResetDone);
+  EXPECT_EQ(fresh.EditState(), 1);
+  EXPECT_FALSE(fresh.PickDragging);
+  EXPECT_EQ(fresh.PickedName, 0);
+  EXPECT_EQ(fresh.glLISTE.Axes, 0U);
+  EXPECT_EQ(fresh.glLISTE.AddAxis, 0U);
   EXPECT_EQ(FactorScale, 1.0);
   EXPECT_EQ(MessageUserToPlot, "");
   EXPECT_EQ(TitlePrefix, " ");
@@ -30,6 +35,7 @@ TEST_F(ClassGlTest, InitWishesForADepthBuffer) {
 
 TEST_F(ClassGlTest, ContextReadySetsTheSceneInOrder) {
   scene.Grids(true);
+  scene.EditStateValue = 6;
   scene.InitGL();
   EXPECT_THAT(
       RecordedCalls(),
@@ -50,6 +56,7 @@ TEST_F(ClassGlTest, ContextReadySetsTheSceneInOrder) {
                   "Text.NewBitmapFont(7, \"Arial\", true, true, 9)",
                   "Text.NewBitmapFont(7, \"Arial\", true, true, 6)"));
   EXPECT_FALSE(scene.Grids());
+  EXPECT_EQ(scene.EditState(), 1);
   EXPECT_EQ(scene.FontOutline, 1);
   EXPECT_EQ(scene.FontLabelLarge, 2);
   EXPECT_EQ(scene.FontLabelSmall, 3);

@@ -42,6 +42,7 @@ TEST_F(ClockTest, OneTickInFivePasses) {
   EXPECT_EQ(scene.CURRINDEXI, 10);
   Tick(1);
   EXPECT_EQ(scene.CURRINDEXI, 20);
+  EXPECT_EQ(RedrawState, 0);
   Tick(500);
   EXPECT_EQ(scene.CURRINDEXI, 1000) << "a hundred passes more";
 }
@@ -115,6 +116,109 @@ TEST_F(ClockTest, AskedChangeOfStartIsHeldByTheNextPassedTick) {
     EXPECT_EQ(RedrawState, 1);
   }
   EXPECT_EQ(scene.CURRINDEXI, 0);
+}
+
+class WatcherTest : public ClockTest {
+ protected:
+  WatcherTest() {
+    LastPoint = 1000000;
+    STEPPT = 1;
+    USERFLAG.InteractiveExcel = 1.0;
+    scene.WatchSheet = [this] { watchedAt.push_back(tick); };
+  }
+
+  /// Ticks of which each has its number, from 1 on.
+  void CountedTicks(int times) {
+    for (int last = tick + times; tick < last;) {
+      ++tick;
+      Tick(1);
+    }
+  }
+
+  int tick = 0;
+  std::vector<int> watchedAt;
+};
+
+TEST_F(WatcherTest, TheSheetIsLookedAtEveryHundredthTick) {
+  CountedTicks(400);
+  EXPECT_THAT(watchedAt, ElementsAre(5, 105, 205, 305));
+}
+
+TEST_F(WatcherTest, HeldTimeLooksAtTheSheetToo) {
+  RedrawState = 1;
+  CountedTicks(100);
+  EXPECT_THAT(watchedAt, ElementsAre(5));
+}
+
+TEST_F(WatcherTest, WithoutInteractiveNobodyLooks) {
+  for (const double interactive : {0.0, 2.0}) {
+    USERFLAG.InteractiveExcel = interactive;
+    CountedTicks(200);
+    EXPECT_THAT(watchedAt, IsEmpty());
+  }
+}
+
+TEST_F(WatcherTest, ALoadKeepsTheWatcherOffWhileTheTimeRunsOn) {
+  LoadBusy = 1;
+  CountedTicks(200);
+  EXPECT_THAT(watchedAt, IsEmpty());
+  EXPECT_EQ(scene.CURRINDEXI, 40);
+  LoadBusy = 0;
+  CountedTicks(100);
+  EXPECT_THAT(watchedAt, ElementsAre(205)) << "the count went on";
+}
+
+TEST_F(WatcherTest, AnOpenQuestionStopsTheTickBehindItsCounters) {
+  USERFLAG.MovieFrameCount = 1;
+  USERFLAG.MovieFrames = 20;
+  USERFLAG.MovieRealTime = 1;
+  RedrawState = 2;
+  WatchStopped = 1;
+  CountedTicks(5);
+  EXPECT_EQ(RedrawState, 1);
+  RedrawState = 0;
+  CountedTicks(195);
+  EXPECT_THAT(watchedAt, IsEmpty());
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 1) << "no frame of the movie either";
+  EXPECT_EQ(scene.CURRINDEXI, 39);
+}
+
+TEST_F(WatcherTest, AnAskedUpdateStopsTheCountersToo) {
+  USERFLAG.UpdateAsked = 1.0;
+  CountedTicks(50);
+  USERFLAG.UpdateAsked = 0;
+  CountedTicks(10);
+  EXPECT_THAT(watchedAt, ElementsAre(55));
+}
+
+TEST_F(ClockTest, WithoutAWatcherTheTickPassesAllTheSame) {
+  LastPoint = 1000;
+  USERFLAG.InteractiveExcel = 1.0;
+  Tick(5);
+  EXPECT_EQ(scene.CURRINDEXI, 100);
+}
+
+TEST_F(ClockTest, OnlyPassedTicksSaveTheMovie) {
+  USERFLAG.MovieFrameCount = 1;
+  USERFLAG.MovieFrames = 20;
+  USERFLAG.MovieRealTime = 1;  // the data stand at the time 0, so that each call saves
+  Tick(4);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 1);
+  Tick(1);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 2);
+  Tick(4);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 2);
+  Tick(1);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 3);
+}
+
+TEST_F(ClockTest, WithoutAMovieNoTickSavesAFrame) {
+  USERFLAG.MovieFrames = 20;
+  USERFLAG.MovieRealTime = 1;
+  USERFLAG.MovieNextTime = 7;
+  Tick(50);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 0);
+  EXPECT_EQ(USERFLAG.MovieNextTime, 7);
 }
 
 TEST_F(ClockTest, AskedUpdateStopsTheTicksUntilThePlotIsDigested) {

@@ -157,7 +157,7 @@ TEST_F(ColourScaleTest, LegendMarksAreSixBlanksInTheColoursOfTheRamp) {
 
 TEST_F(ColourScaleTest, NoLegendWithoutColourValues) {
   ValAxis = 2;
-  EXPECT_EQ(CountBeginning(Frame(), "Text.DrawBitmap"), 0);
+  EXPECT_EQ(CountBeginning(Frame(), "Text.DrawBitmap(0, \"  \""), 0);
 }
 
 }  // namespace

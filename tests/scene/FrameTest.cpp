@@ -16,8 +16,10 @@ class FrameTest : public ScenePlot {
 
 TEST_F(FrameTest, FirstFrameOfAPlotDigestsItAndDrawsInOrder) {
   LoadSmallPlot();
+  USERFLAG.TimeInData = 1;
+  const auto frame = Frame();
   EXPECT_THAT(
-      Frame(),
+      frame,
       ElementsAre(
           // The plot is digested: range 80, and the light and the camera follow it.
           "Lights(1).SetAmbient(0, 1, 1, 1)", "Lights(1).SetDiffuse(1, 0, 1, 1)",
@@ -25,13 +27,22 @@ TEST_F(FrameTest, FirstFrameOfAPlotDigestsItAndDrawsInOrder) {
           "Lights(1).SetEnabled(true)", "Camera.SetField(180)", "Camera.SetPosition(0, 0, 480)",
           // Head of the frame.
           "Animation.Update()", "glPushMatrix()", "Text.Draw3D(0, \"QuorbExcelPro\", 80, 0, 0, 1, 16733610)",
-          "glPopMatrix()", "glClear(GL_DEPTH_BUFFER_BIT)", "glDisable(GL_LIGHTING)", "glEnable(GL_BLEND)",
-          "glLineWidth(1)", "glLineWidth(1)", "glPointSize(1)",
+          "Text.DrawBitmap(0, \"X \", 52, 0, 0, 2642040)", "Text.DrawBitmap(0, \"Y \", 0, 52, 0, 2642040)",
+          "Text.DrawBitmap(0, \"Z \", 0, 0, 52, 2642040)", "glPopMatrix()", "glClear(GL_DEPTH_BUFFER_BIT)",
+          "glDisable(GL_LIGHTING)", "glEnable(GL_BLEND)",
+          // The axes, of the length 80, whose list nothing calls yet.
+          "glLineWidth(1)", "glGenLists(1)",
+          "glNewList(" + std::to_string(scene.glLISTE.Axes) + ", GL_COMPILE)", "glBegin(GL_LINES)",
+          "glColor3f(0.5, 0.5, 0.5)", "glVertex3f(0, 0, 0)", "glVertex3f(0, 0, 80)", "glVertex3f(0, 0, 0)",
+          "glVertex3f(0, 80, 0)", "glColor3f(1, 1, 0)", "glVertex3f(0, 0, 0)", "glVertex3f(80, 0, 0)",
+          "glEnd()", "glColor3f(1, 1, 0)", "glEndList()", "glLineWidth(1)", "glPointSize(1)",
           // The trajectory, at its first row.
           "glClearColor(0.0390625, 0.078125, 0.2734375, 1)", "glClearDepth(1)", "glShadeModel(GL_SMOOTH)",
           "glShadeModel(GL_FLAT)", "glDeleteLists(0, 1)", "glNewList(0, GL_COMPILE)", "glColor3f(0, 1, 1)",
           kNominalColour, "glBegin(GL_LINE_STRIP)", kNominalColour, "glVertex3f(0, 0, 0)", "glEnd()",
-          "glEndList()"));
+          "glEndList()",
+          // The time 10 is a midnight.
+          "PrintText(8, 23, \" 00:00:00.00 \")"));
   EXPECT_EQ(DEJADRAW, 1);
   EXPECT_EQ(DEJARESET, 1);
   EXPECT_TRUE(scene.ResetDone);
@@ -71,7 +82,8 @@ TEST_F(FrameTest, AnEmptyPlotNeverRunsResetAndIsStillDrawn) {
   EXPECT_EQ(DEJADRAW, 0);
   EXPECT_EQ(DEJARESET, 0);
   EXPECT_EQ(CountOf(frame, "Text.Draw3D(0, \"QuorbExcelPro\", 100, 0, 0, 1, 16733610)"), 1);
-  EXPECT_EQ(CountOf(frame, "glEndList()"), 1);
+  EXPECT_EQ(CountOf(frame, "Text.DrawBitmap(0, \"X \", 65, 0, 0, 2642040)"), 1);
+  EXPECT_EQ(CountOf(frame, "glVertex3f(100, 0, 0)"), 1) << "the X axis";
 }
 
 TEST_F(FrameTest, APlotThatIsBeingLoadedIsNotDigested) {
@@ -131,8 +143,10 @@ TEST_F(FrameTest, GridsAreDrawnAtTheHeadOfTheFrame) {
 }
 
 TEST_F(FrameTest, LogoTextIsDrawnUnlessSwitchedOff) {
+  const char* logo = "Text.Draw3D(0, \"QuorbExcelPro\", 100, 0, 0, 1, 16733610)";
+  EXPECT_EQ(CountOf(Frame(), logo), 1);
   USERFLAG.NoLogoLabel = 1;
-  EXPECT_EQ(CountBeginning(Frame(), "Text.Draw3D"), 0);
+  EXPECT_EQ(CountOf(Frame(), logo), 0);
 }
 
 TEST_F(FrameTest, VernalTextStandsOnTheXAxisOfAPlotToScale) {
@@ -199,19 +213,23 @@ TEST_F(FrameTest, LengthAxisFactorZeroFallsBackToElevenTenths) {
   EXPECT_DOUBLE_EQ(scene.AxisLength(), 100);
 }
 
-TEST_F(FrameTest, ValueTextFollowsTheTrajectoryAndTheLegendIsLast) {
+TEST_F(FrameTest, TextsFollowTheTrajectoryInTheirOrderAndTheLegendIsLast) {
   SetPoint(0, 0, 0, 0, 0);
   SetPoint(1, 1, 1, 0, 0);
   SetValue(0, 0, 0.5);
   SetValue(1, 5, 1);
   ValColour = 1;
   ValAxis = 3;
+  FlagOptionToPlot = 1;
   TakePlotAsItIs();
   const auto frame = Frame();
-  ASSERT_GT(frame.size(), 9U);
-  EXPECT_THAT(std::vector(frame.end() - 9, frame.end() - 5),
+  ASSERT_GT(frame.size(), 12U);
+  EXPECT_THAT(std::vector(frame.end() - 12, frame.end() - 5),
               ElementsAre("glEndList()", "PrintText(8, 43, \"Value : 1.    limits:  0.  to 1.  \")",
                           "PrintText(8, 60, \" , shown during thrust.\")",
+                          "Text.Draw3D(0, \"QuorbExcelPro  31  Dec 1899 00:00 \", 1, 0, 0, 0.5, 2642040)",
+                          "Text.Draw3D(0, \"0 , 0 , 0 , \", 0, 0, 0, 1.5, 2642040)",
+                          "PrintText(8, 23, \" 00:00:00.00 \")",
                           "Text.DrawBitmap(0, \"  \", 0, 0, -11, 16711935)"));  // (10 - 32) / 2
 }
 

@@ -11,6 +11,7 @@
 #include "ClassGl.h"
 #include "Clock.h"
 #include "GlRecorder.h"
+#include "Movie.h"
 #include "PlotData.h"
 #include "RecordingHost.h"
 #include "RunState.h"
@@ -52,11 +53,16 @@ class ScenePlot : public testing::Test {
     USERFLAG.SynchroExcelComplete = 1.0;
     DEJARESET = DEJADRAW = 0;
     ISOmode = PenUpMode = PenUpLabelMode = PenUpLabelShow = ValColour = ValAxis = 0;
+    FlagOptionToPlot = ColumnMode = LoadBusy = WatchStopped = 0;
     FactorScale = 1.0;
+    TitlePrefix = " ";
     MessageUserToPlot.clear();
     ImportDirectory.clear();
     RedrawState = 0;
     STEPPT = 0;
+    MovieDirectory.clear();
+    MoviePrefix.clear();
+    ForgetView();
   }
 
   static void SetPoint(int row, double time, double x, double y, double z, double pen = 0) {
@@ -95,20 +101,37 @@ class ScenePlot : public testing::Test {
     scene.CURRINDEXI = LastPoint;
   }
 
-  /// The calls of one frame.
+  /// The calls of one frame, without the look at the camera at its end, which draws nothing.
   std::vector<std::string> Frame() {
     ClearCalls();
     scene.Draw();
-    return RecordedCalls();
+    std::vector<std::string> calls = RecordedCalls();
+    while (!calls.empty() && calls.back().starts_with("Camera.Get"))
+      calls.pop_back();
+    return calls;
   }
 
-  /// The calls of one frame between glNewList and glEndList, without the two colours at its head.
-  std::vector<std::string> Trace() {
+  /// The calls of one frame from one call to another behind it, without the two; "not found" when they are
+  /// not there.
+  std::vector<std::string> FrameBetween(const std::string& from, const std::string& to) {
     const std::vector<std::string> frame = Frame();
-    const auto open = std::find(frame.begin(), frame.end(), "glNewList(0, GL_COMPILE)");
-    const auto close = std::find(frame.begin(), frame.end(), "glEndList()");
-    if (open == frame.end() || close - open < 3) return {"no list"};
-    return {open + 3, close};
+    const auto open = std::find(frame.begin(), frame.end(), from);
+    const auto close = std::find(open, frame.end(), to);
+    if (close == frame.end()) return {"not found"};
+    return {open + 1, close};
+  }
+
+  /// The calls of the trajectory's list, without the two colours at its head.
+  std::vector<std::string> Trace() {
+    std::vector<std::string> calls = FrameBetween("glNewList(0, GL_COMPILE)", "glEndList()");
+    if (calls.size() > 1) calls.erase(calls.begin(), calls.begin() + 2);
+    return calls;
+  }
+
+  /// The calls of the list of axes that one frame makes.
+  std::vector<std::string> AxesList() {
+    const std::vector<std::string> calls = FrameBetween("glGenLists(1)", "glEndList()");
+    return {calls.begin() + 1, calls.end()};
   }
 
   RecordingHost host;

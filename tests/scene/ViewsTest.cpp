@@ -1,18 +1,10 @@
 #include <utility>
 
 #include "ScenePlot.h"
-#include "SceneWindow.h"
+#include "TaggedWindow.h"
 
 namespace quorb {
 namespace {
-
-class TaggedWindow : public SceneWindow {
- public:
-  std::string Check9Tag() const override { return tag; }
-  void SetCheck9Tag(const std::string& text) override { tag = text; }
-
-  std::string tag;
-};
 
 using Triple = RecordingHost::Point;
 
@@ -21,12 +13,8 @@ class ViewsTest : public ScenePlot {
   ViewsTest() {
     DEJADRAW = 1;
     ResizeArmed = 1;
-    SetSceneWindow(&window);
   }
-  ~ViewsTest() override {
-    SetSceneWindow(nullptr);
-    ResizeArmed = 1;
-  }
+  ~ViewsTest() override { ResizeArmed = 1; }
 
   static void ExpectTriple(const Triple& actual, const Triple& expected) {
     EXPECT_NEAR(actual.x, expected.x, 1e-4);

@@ -73,6 +73,7 @@ TEST_F(FormLoadTest, TheStepsRunInTheirOrder) {
                           "Settings.Write(\"Use\", \"Setstr01.00\", \"earthjpg.jpg\")",
                           "Settings.Write(\"Use\", \"Setstr13.00\", \"0\")",  // the slots are shown
                           "MessageBox(\"Warning\")",                          //
+                          "SetMousePointer(201, \"\")",                       //
                           "Animation.SetEnabled(true)",                       //
                           "Animation.Update()",                               //
                           "Animation.SetEnabled(true)"));

@@ -128,6 +128,95 @@ TEST_F(PlotControlsTest, ASpeedOutsideTheBarIsRefused) {
   EXPECT_EQ(STEPPT, 512);
 }
 
+// ---- HScroll4 ---------------------------------------------------------------------------------------------
+
+TEST_F(PlotControlsTest, TheStartBarSetsTheFirstRowInThousandthsOfThePlot) {
+  window.HScroll4.value = 250;
+  EXPECT_EQ(TheScene->CURRINDEXMINI, 5000);
+  EXPECT_EQ(window.Text10.caption.Get(), "Starting 250");
+  EXPECT_EQ(RedrawState, 0);
+}
+
+TEST_F(PlotControlsTest, TheStartBarDraggedTo0JumpsTo1) {
+  window.HScroll4.value = 5;
+  window.HScroll4.value = 0;
+  EXPECT_EQ(window.HScroll4.value, 1);
+  EXPECT_EQ(TheScene->CURRINDEXMINI, 0);
+  EXPECT_EQ(window.Text10.caption.Get(), "Starting 0");
+}
+
+TEST_F(PlotControlsTest, WhileTheTimeIsHeldTheStartStaysAndItsLabelTellsIt) {
+  TheScene->CURRINDEXMINI = 4000;
+  RedrawState = 1;
+  window.HScroll4.value = 900;
+  EXPECT_EQ(TheScene->CURRINDEXMINI, 4000);
+  EXPECT_EQ(window.Text10.caption.Get(), "Starting 200");
+  EXPECT_EQ(RedrawState, 2) << "the next tick holds the time again";
+}
+
+// ---- HScroll5 and HScroll6 --------------------------------------------------------------------------------
+
+TEST_F(PlotControlsTest, TheFramesBarSetsTheNumberOfFrames) {
+  window.HScroll5.value = 30;
+  EXPECT_EQ(USERFLAG.MovieFrames, 30);
+  EXPECT_EQ(window.Text11.caption.Get(), "0 / 30 Frames ");
+  EXPECT_EQ(
+      window.Text11.toolTip.Get(),
+      "Before or During a movie process, use this scrollbar to increase the number of Frames (default is "
+      "20)");
+  EXPECT_EQ(window.MovieTouched, 1);
+}
+
+TEST_F(PlotControlsTest, TheFramesBarAt0Gives20Frames) {
+  window.HScroll5.value = 0;
+  EXPECT_EQ(USERFLAG.MovieFrames, 20);
+  USERFLAG.MovieFrameCount = 7;
+  window.HScroll5.value = 900;
+  EXPECT_EQ(USERFLAG.MovieFrames, 900);
+  EXPECT_EQ(window.Text11.caption.Get(), "7 / 900 Frames ");
+  window.HScroll5.value = 901;
+  EXPECT_EQ(USERFLAG.MovieFrames, 20);
+}
+
+TEST_F(PlotControlsTest, TheSecondTouchOfTheFramesBarSlowsTheRedrawDown) {
+  window.HScroll5.value = 30;
+  EXPECT_EQ(window.HScroll2.value, 9);
+  window.HScroll5.value = 31;
+  EXPECT_EQ(window.HScroll2.value, 0);
+}
+
+TEST_F(PlotControlsTest, TheFrameTimeBarSetsTenthsOfASecond) {
+  window.HScroll6.value = 2;
+  EXPECT_EQ(USERFLAG.MovieFrameTime, 0.3);
+  EXPECT_EQ(window.Text12.caption.Get(), ".3 seconds between Frames");
+  window.HScroll6.value = 16;
+  EXPECT_EQ(USERFLAG.MovieFrameTime, 1.7);
+  EXPECT_EQ(window.Text12.caption.Get(), "1.7 seconds between Frames");
+  EXPECT_EQ(
+      window.Text12.toolTip.Get(),
+      "Before or During a movie process, use this scrollbar to change the rate of the Frames (in seconds), "
+      "default is 0.3 s");
+}
+
+// ---- bad input --------------------------------------------------------------------------------------------
+
+TEST_F(PlotControlsTest, BarsDrivenToBothEndsWhileALoadRunsLeaveTheScenesRowsInside) {
+  LoadBusy = 1;
+  USERFLAG.SynchroExcelComplete = 0;
+  for (const int rows : {0, 1, kRowBound - 1, 1099999}) {
+    LastPoint = rows;
+    for (ScrollBar* bar : {&window.HScroll1, &window.HScroll2, &window.HScroll4, &window.HScroll7}) {
+      bar->value = bar->max;
+      bar->value = bar->min;
+    }
+    EXPECT_GE(TheScene->CURRINDEXI, 0);
+    EXPECT_LE(TheScene->CURRINDEXI, rows);
+    EXPECT_GE(TheScene->CURRINDEXMINI, 0);
+    EXPECT_LE(TheScene->CURRINDEXMINI, rows);
+    TheScene->Draw();
+  }
+}
+
 // ---- design -----------------------------------------------------------------------------------------------
 
 TEST_F(PlotControlsTest, TheBarsAreDesignedWithTheirBounds) {
@@ -143,6 +232,24 @@ TEST_F(PlotControlsTest, TheBarsAreDesignedWithTheirBounds) {
   EXPECT_EQ(designed.Text2.toolTip.Get(), "Increase or decrease the speed of the dynamic plot");
   EXPECT_EQ(designed.Text3.toolTip.Get(),
             "Redraw  feature: new dynamic plot redrawn from the point you select up to the last one");
+  const ScrollBar* const others[] = {&designed.HScroll4, &designed.HScroll5, &designed.HScroll6,
+                                     &designed.HScroll7};
+  numbers.clear();
+  for (const ScrollBar* bar : others)
+    numbers.push_back({bar->min, bar->max, bar->largeChange, bar->value, bar->visible.Get() ? 1 : 0});
+  EXPECT_THAT(numbers, ElementsAre(ElementsAre(0, 1000, 100, 0, 1), ElementsAre(0, 1000, 100, 1000, 0),
+                                   ElementsAre(0, 16, 3, 9, 0), ElementsAre(0, 100, 10, 1, 1)));
+  EXPECT_EQ(designed.Text10.caption.Get(), "Starting");
+  EXPECT_EQ(designed.Text10.toolTip.Get(), "Starting feature: Trace start from the point you select");
+  EXPECT_EQ(designed.Text11.caption.Get(), "Movie");
+  EXPECT_EQ(designed.Text11.toolTip.Get(), "Movie feature: number of frames");
+  EXPECT_EQ(designed.Text12.caption.Get(), "Time between frames");
+  EXPECT_EQ(designed.Text12.toolTip.Get(), "Increase or decrease the time between frame for movie");
+  EXPECT_EQ(designed.Command7.caption, "View local");
+  EXPECT_EQ(
+      designed.Command7.toolTip.Get(),
+      "Use a trajectory point (set by the scroll bar) as centre instead of the origin 0,0,0.  For "
+      "continuous moving press the key W while this command has the focus. press again W for coming back");
   EXPECT_EQ(designed.Text16.caption.Get(), "CubicView range and Axis length");
   EXPECT_EQ(designed.Text18.caption.Get(), "Size satellite");
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "NumberText.h"
 #include "WindowFixture.h"
 
 namespace quorb {
@@ -374,6 +375,37 @@ TEST_F(SettingsTest, ASavedLineWidthIsThereAtTheNextStart) {
   EXPECT_EQ(frmMain->Text4[0].text.Get(), "4");
   EXPECT_EQ(USERFLAG.ThicknessLinePlot, 4);
   EXPECT_EQ(USERFLAGfactory.ThicknessLinePlot, 1);
+}
+
+/// A machine with a comma as decimal mark and a point as thousands mark.
+class CommaRegion : public RegionalSettings {
+ public:
+  CommaRegion() { SetRegionalSettings(this); }
+  ~CommaRegion() override { SetRegionalSettings(nullptr); }
+  std::string DecimalSeparator() override { return ","; }
+  std::string ThousandsSeparator() override { return "."; }
+};
+
+TEST_F(SettingsTest, AFractionThatIsSavedComesBackOnAMachineThatHasThePointAsThousandsMark) {
+  const CommaRegion region;
+  window.Text4[3].text = "0,5";
+  EXPECT_EQ(USERFLAG.PositionFactor, 0.5);
+  Command1_Click();
+  StartRunState();
+  Load();
+  EXPECT_EQ(USERFLAG.PositionFactor, 0.5);
+  EXPECT_EQ(frmMain->Text4[3].text.Get(), "0,5");
+}
+
+TEST_F(SettingsTest, TheCubicRangeOfAnActivationIsTheSameOnSuchAMachine) {
+  const CommaRegion region;
+  StartRunState();
+  Load();
+  Form_Activate();
+  EXPECT_EQ(USERFLAG.LengthAxisFactor, 1.75);
+  EXPECT_EQ(frmMain->HScroll8.value, 1750);
+  frmMain->HScroll8.value = 2500;
+  EXPECT_EQ(USERFLAG.LengthAxisFactor, 2.5);
 }
 
 }  // namespace

@@ -42,13 +42,15 @@ class WholeStartTest : public WindowFixture {
       TheScene->TheUpdateTimer_ThatTime();
   }
 
-  /// The vertices of a frame, in order.
+  /// The vertices of a frame's trajectory, in order.
   std::vector<std::string> Vertices() {
     ClearCalls();
     events.Draw();
     std::vector<std::string> vertices;
-    for (const std::string& call : RecordedCalls()) {
-      if (call.starts_with("glVertex3f")) vertices.push_back(call);
+    const auto& calls = RecordedCalls();
+    for (auto call = std::find(calls.begin(), calls.end(), "glNewList(0, GL_COMPILE)"); call != calls.end();
+         ++call) {
+      if (call->starts_with("glVertex3f")) vertices.push_back(*call);
     }
     return vertices;
   }

@@ -58,6 +58,12 @@ class RecordingHost : public glCtl {
       target = {targetX, targetY, targetZ};
       up = {upX, upY, upZ};
     }
+    void Pan(float dx, float dy) override { RecordCallOf("Camera.Pan", dx, dy); }
+    void Zoom(float factor) override { RecordCallOf("Camera.Zoom", factor); }
+    void Dolly(float share) override { RecordCallOf("Camera.Dolly", share); }
+    void Pitch(float degrees) override { RecordCallOf("Camera.Pitch", degrees); }
+    void Yaw(float degrees) override { RecordCallOf("Camera.Yaw", degrees); }
+    void Roll(float degrees) override { RecordCallOf("Camera.Roll", degrees); }
 
     double window[4] = {-1, 1, -1, 1};
     int projection = 1;
@@ -174,12 +180,28 @@ class RecordingHost : public glCtl {
   RecordingText& Text() override { return text; }
   RecordingAnimation& Animation() override { return animation; }
   void ReturnList(unsigned list) override { RecordCallOf("ReturnList", list); }
+  void SetMousePointer(int id, const std::string& icon) override {
+    RecordCallOf("SetMousePointer", id, icon);
+  }
+  void ShowBusy(bool busy) override { RecordCallOf("ShowBusy", busy); }
+  void TrackballStart(int button, int x, int y) override { RecordCallOf("TrackballStart", button, x, y); }
+  void TrackballMove(int x, int y) override { RecordCallOf("TrackballMove", x, y); }
+  void TrackballEnd() override { RecordCallOf("TrackballEnd"); }
+  bool BeginReading() override {
+    RecordCallOf("BeginReading");
+    return hasPicture;
+  }
+  void EndReading() override { RecordCallOf("EndReading"); }
   int hDC() const override {
     RecordCallOf("hDC");
     return 7;
   }
-  int Width() const override { return 640; }
-  int Height() const override { return 480; }
+  int Width() const override { return width; }
+  int Height() const override { return height; }
+
+  int width = 640, height = 480;
+  /// Whether a frame was drawn that can be read.
+  bool hasPicture = true;
 
   RecordingCamera camera;
   std::map<int, RecordingLight> lights;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
 #include <concepts>
+#include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -14,6 +17,14 @@ const std::vector<std::string>& RecordedCalls();
 
 /// Forgets all calls.
 void ClearCalls();
+
+/// Red, green and blue of the pixel at (x, y) of a view, which counts from its bottom left corner.
+using PixelColours = std::function<std::array<std::uint8_t, 3>(int x, int y)>;
+
+/// The view that glGetIntegerv(GL_VIEWPORT) tells and glReadPixels reads from now on, in rows of a multiple
+/// of 4 bytes. Until it is set, and after ForgetView(), both leave the caller's memory as it is.
+void SetView(int width, int height, PixelColours colourAt);
+void ForgetView();
 
 /// The shortest text that reads back as the same number.
 std::string ArgumentText(float value);

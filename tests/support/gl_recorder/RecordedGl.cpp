@@ -3,8 +3,10 @@
 #include <GL/gl.h>
 #include <GL/glu.h>
 
+#include <algorithm>
 #include <map>
 #include <string>
+#include <utility>
 
 #include "GlRecorder.h"
 
@@ -68,6 +70,9 @@ Constant Symbol(GLenum value) {
                        {GL_VIEWPORT, "GL_VIEWPORT"},
                        {GL_PACK_ALIGNMENT, "GL_PACK_ALIGNMENT"},
                        {GL_UNPACK_ALIGNMENT, "GL_UNPACK_ALIGNMENT"},
+                       {GL_UNPACK_SKIP_ROWS, "GL_UNPACK_SKIP_ROWS"},
+                       {GL_UNPACK_SKIP_PIXELS, "GL_UNPACK_SKIP_PIXELS"},
+                       {GL_UNPACK_ROW_LENGTH, "GL_UNPACK_ROW_LENGTH"},
                        {GL_RGB, "GL_RGB"},
                        {GL_RGBA, "GL_RGBA"},
                        {GL_BGR, "GL_BGR"},
@@ -79,7 +84,25 @@ Constant Symbol(GLenum value) {
 GLuint nextList = 1;
 char quadricStorage;
 
+struct View {
+  int width = 0, height = 0;
+  quorb::PixelColours colourAt;
+};
+View view;
+
 }  // namespace
+
+namespace quorb {
+
+void SetView(int width, int height, PixelColours colourAt) {
+  view = {width, height, std::move(colourAt)};
+}
+
+void ForgetView() {
+  view = {};
+}
+
+}  // namespace quorb
 
 extern "C" {
 
@@ -168,16 +191,27 @@ void glColorMaterial(GLenum face, GLenum mode) {
   RecordCallOf("glColorMaterial", Symbol(face), Symbol(mode));
 }
 
-// Nothing was drawn, so nothing is read: what the caller's memory holds stays.
-void glGetIntegerv(GLenum pname, GLint* /*params*/) {
+void glGetIntegerv(GLenum pname, GLint* params) {
   RecordCallOf("glGetIntegerv", Symbol(pname));
+  if (pname != GL_VIEWPORT || !view.colourAt) return;
+  params[0] = 0;
+  params[1] = 0;
+  params[2] = view.width;
+  params[3] = view.height;
 }
 void glPixelStorei(GLenum pname, GLint param) {
   RecordCallOf("glPixelStorei", Symbol(pname), param);
 }
 void glReadPixels(GLint x, GLint y, GLsizei width, GLsizei height, GLenum format, GLenum type,
-                  GLvoid* /*pixels*/) {
+                  GLvoid* pixels) {
   RecordCallOf("glReadPixels", x, y, width, height, Symbol(format), Symbol(type));
+  if (!view.colourAt || format != GL_RGB) return;
+  const int rowBytes = (3 * width + 3) / 4 * 4;
+  for (int row = 0; row < height; ++row) {
+    auto* target = static_cast<std::uint8_t*>(pixels) + row * rowBytes;
+    for (int column = 0; column < width; ++column, target += 3)
+      std::ranges::copy(view.colourAt(x + column, y + row), target);
+  }
 }
 
 GLUquadric* gluNewQuadric() {

@@ -1,0 +1,10 @@
+#include "frmVideo.h"
+
+namespace quorb {
+
+VideoWindow& frmVideo() {
+  static VideoWindow window;
+  return window;
+}
+
+}  // namespace quorb

@@ -28,7 +28,12 @@ int Pixel(double value) {
 class EventsOfHost : public HostEvents {
  public:
   void Initialise() override { TheScene->init(); }
-  void ContextReady() override { TheScene->InitGL(); }
+  // The window chose the mouse mode in its load sequence; the scene's own start does not take it back.
+  void ContextReady() override {
+    const int mode = TheScene->EditState();
+    TheScene->InitGL();
+    TheScene->EditStateValue = mode;
+  }
   void Resize(int width, int height) override {
     TheScene->Reshape(width, height);
     PlotWidth = width;

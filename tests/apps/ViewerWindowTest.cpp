@@ -11,6 +11,8 @@
 namespace quorb {
 namespace {
 
+using testing::HasSubstr;
+
 constexpr int kWidth = 1280;
 constexpr int kPlotHeight = 800;
 constexpr int kStripHeight = 60;
@@ -44,6 +46,18 @@ class ViewerWindow : public testing::Test {
 
   ProgramOutcome Drive(const std::string& words) const {
     return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " xdotool " + words);
+  }
+
+  /// The strip below the plot, a second behind the start on this file; the window is closed then.
+  PixelImage StripOfARun(const std::string& file) const {
+    const auto viewer = Start(run_.File(file));
+    EXPECT_TRUE(WaitForWindow("Quorb"));
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    const PixelImage strip = Screen("1280x60+0+800");
+    const std::string window = Drive("search --onlyvisible --name 'Quorb'").out;
+    EXPECT_TRUE(CloseWindow(display_.Name(), std::stoul(window)));
+    EXPECT_EQ(viewer->Wait(std::chrono::seconds(10)), 0);
+    return strip;
   }
 
   // Waits until a window with this text in its title is on the screen.
@@ -100,6 +114,21 @@ TEST_F(ViewerWindow, ClosingTheWindowEndsTheProgramAtOnce) {
   const std::string window = Drive("search --onlyvisible --name 'Quorb'").out;
   ASSERT_TRUE(CloseWindow(display_.Name(), std::stoul(window)));
   EXPECT_EQ(viewer->Wait(std::chrono::seconds(10)), 0);
+}
+
+TEST_F(ViewerWindow, TheSatelliteThatWasSwitchedOnIsThereBehindARestart) {
+  // Two points with times, events and quaternions.
+  const std::string rows = "1000\t0\t0\t1\t1\t0\t1\t1\t0\t0\t0\r\n0\t2000\t0\t2\t2\t0\t2\t1\t0\t0\t0\r\n";
+  const std::string ranges = " kmday\")+MAX(A2:C3)+MAX(D2:D3)+MAX(E2:F3)+MAX(G2:K3)";
+  run_.Write("plain plot.qbv", DataFileText("=0.01+LEN(\"Plain" + ranges, rows));
+  run_.Write("satellite.qbv", DataFileText("=0.01+LEN(\"My Sat" + ranges, rows));
+  // A title with a satellite switches it on, and a third bar sizes it; a plain plot keeps what is stored.
+  const PixelImage before = StripOfARun("plain plot.qbv");
+  StripOfARun("satellite.qbv");
+  EXPECT_THAT(ContentsOfFile(run_.File("config/QuorbExcelPro/QuorbExcelProSettings.conf")),
+              HasSubstr("Setstr14.00=1"));
+  const PixelImage behind = StripOfARun("plain plot.qbv");
+  EXPECT_GT(FindDifference(behind, before).share, 0.002) << "the bar of its size";
 }
 
 TEST_F(ViewerWindow, HelpAndVersionNeedNoDisplay) {

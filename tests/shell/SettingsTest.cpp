@@ -274,6 +274,15 @@ TEST_F(SettingsTest, AColourOf300InTheStoreComesBackAs255) {
   EXPECT_EQ(USERFLAG.ColourBackground.red, 255);
 }
 
+TEST_F(SettingsTest, AColourOfMinus5InTheStoreComesBackAs0) {
+  StoreUse("Set00.00", "1");
+  StoreUse("Set12.00", "-5");
+  int noneStored = 0;
+  OptionsLoadSave(0, noneStored);
+  EXPECT_EQ(USERFLAG.ColourAxisLabels.green, 0);
+  EXPECT_EQ(OptionSlots[12], "0");
+}
+
 TEST_F(SettingsTest, AStoredTextThatIsNoNumberReadsAs0) {
   SaveSlots();
   StoreUse("Set07.00", "wide");

@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "QtDialogs.h"
 #include "QtSettings.h"
+#include "SystemDayClock.h"
 #include "SystemDesktop.h"
 #include "SystemFiles.h"
 #include "SystemRegion.h"
@@ -43,12 +44,14 @@ int main(int argc, char** argv) {
   SystemFiles files;
   SystemRegion region;
   SystemDesktop desktop;
+  SystemDayClock clock;
   dialogs.beforeEnd = [&settings] { settings.Flush(); };
   SetDialogs(&dialogs);
   SetSettings(&settings);
   SetFileAccess(&files);
   SetRegionalSettings(&region);
   SetDesktop(&desktop);
+  SetDayClock(&clock);
 
   ViewerWindow window;
   window.Load(commandLine);

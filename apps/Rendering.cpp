@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 
 #include "CommExcl.h"
@@ -16,7 +17,7 @@ namespace quorb {
 namespace {
 
 constexpr int kLargestSide = 16384;
-constexpr double kTwipsPerPixel = 15;
+constexpr double kBrightest = 255;
 constexpr int kMostFrames = 1000000;
 constexpr double kUpwardAxis = 3;
 
@@ -46,13 +47,17 @@ bool ReadSetting(const std::string& text, OptionSetting& setting) {
   for (;;) {
     const std::size_t comma = rest.find(',');
     double number = 0;
-    if (!ReadNumber(rest.substr(0, comma), number)) return false;
+    if (!ReadNumber(rest.substr(0, comma), number) || !std::isfinite(number)) return false;
     setting.numbers.push_back(number);
     if (comma == rest.npos) break;
     rest.remove_prefix(comma + 1);
   }
   UserFlagRecord unused;
-  return FieldNumbers(unused, setting.field).size() == setting.numbers.size();
+  const bool isColour = setting.numbers.size() == 3;
+  const bool fits = std::all_of(setting.numbers.begin(), setting.numbers.end(), [isColour](double number) {
+    return !isColour || (number >= 0 && number <= kBrightest);
+  });
+  return fits && FieldNumbers(unused, setting.field).size() == setting.numbers.size();
 }
 
 /// Steps of a walk through views; 0 for a word that names none.
@@ -188,7 +193,8 @@ bool ReadRenderCall(const CommandLine& line, RenderCall& call, std::string& erro
   for (const std::string& text : line.Values("--set")) {
     OptionSetting setting;
     if (!ReadSetting(text, setting)) {
-      error = "'" + text + "' is no option: it takes FIELD=NUMBER, or FIELD=RED,GREEN,BLUE for a colour";
+      error = "'" + text +
+              "' is no option: it takes FIELD=NUMBER, or FIELD=RED,GREEN,BLUE from 0 to 255 for a colour";
       return false;
     }
     call.settings.push_back(setting);

@@ -47,7 +47,6 @@ const std::vector<std::string_view> kOptions = {"-o",    "--size",   "--row",  "
 
 /// One line on a terminal, written over by the next picture's.
 void ShowProgress(RenderCall& call) {
-  if (!call.frames || isatty(STDERR_FILENO) == 0) return;
   const int total = *call.frames;
   call.written = [total](int number) {
     std::cerr << "\rpicture " << number << " of " << total << (number == total ? "\n" : "") << std::flush;
@@ -62,7 +61,8 @@ int Run(const std::vector<std::string>& arguments) {
     std::cerr << "quorb-render: " << error << " (see quorb-render --help)\n";
     return kExitWrongCall;
   }
-  ShowProgress(call);
+  const bool showsProgress = call.frames && isatty(STDERR_FILENO) != 0;
+  if (showsProgress) ShowProgress(call);
   ConsoleDialogs dialogs;
   SystemFiles files;
   SystemRegion region;
@@ -72,7 +72,7 @@ int Run(const std::vector<std::string>& arguments) {
   SetRegionalSettings(&region);
   SetDesktop(&desktop);
   if (Render(call, error)) return kExitOk;
-  std::cerr << "quorb-render: " << error << '\n';
+  std::cerr << (showsProgress ? "\nquorb-render: " : "quorb-render: ") << error << '\n';
   return kExitFailed;
 }
 

@@ -28,6 +28,8 @@ class EmptyHost : public glCtl {
   void TrackballStart(int /*button*/, int /*x*/, int /*y*/) override {}
   void TrackballMove(int /*x*/, int /*y*/) override {}
   void TrackballEnd() override {}
+  bool MakeCurrent() override { return false; }
+  void DoneCurrent() override {}
   bool BeginReading() override { return false; }
   void EndReading() override {}
   int hDC() const override { return 0; }

@@ -10,12 +10,10 @@ namespace quorb {
 /// - `.` is the point, and is always printed, as a point in every locale;
 /// - `,` between places in front of the point groups the digits by three, with commas;
 /// - `E+00` behind the places asks for the scientific form, with as many digits in front of the point as
-/// there
-///   are places, and an exponent with its sign and at least as many digits as zeros;
+///   there are places, and an exponent with its sign and at least as many digits as zeros;
 /// - `\` makes the next character stand as it is;
-/// - `;` separates the picture of numbers that are not negative from the one of negative numbers, which holds
-/// its
-///   own minus sign;
+/// - `;` separates the picture of numbers that are not negative from the one of negative numbers, which
+///   holds its own minus sign;
 /// - any other character stands as it is, also a digit and a blank between places.
 ///
 /// Digits in front of the point for which there is no place come out at the first one. Without `;`, a minus

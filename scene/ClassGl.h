@@ -93,9 +93,10 @@ class ClassGl : public PlotExtent {
   void KeyDown(int keyCode, int shift);
   /// Any character puts the eye on the origin, with Y upward.
   void KeyPress(const std::string& character);
-  /// Takes a turned coordinate, or brings one that jumped to the other side back: `wanted` itself within 1 +
-  /// a tenth of `old` of `old`, its opposite when that too is far, else 1.05 times `old`. `note` tells where
-  /// the call comes from.
+  /// The new value of a camera coordinate that a key turned from `old` to `wanted`, with the limit 1 +
+  /// |old| / 10: `wanted` when it lies within the limit of `old`; 1.05 times `old` when it lies within the
+  /// limit of `-old`, since it then only jumped to the other side; else -wanted. `note` tells where the call
+  /// comes from.
   static float noSteps(double old, double wanted, const std::string& note);
 
   /// The mouse in pixels from the top left corner of the view; `button` 1 left, 2 right, 0 none. A move with

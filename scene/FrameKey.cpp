@@ -11,7 +11,7 @@ namespace {
 void AddCamera(std::vector<double>& numbers, const HostCamera& camera) {
   double left = 0, right = 0, bottom = 0, top = 0;
   camera.GetOrtho(left, right, bottom, top);
-  numbers.insert(numbers.end(), {left, right, bottom, top, 1.0 * camera.GetProjection()});
+  numbers.insert(numbers.end(), {left, right, bottom, top, static_cast<double>(camera.GetProjection())});
   float x = 0, y = 0, z = 0;
   camera.GetPosition(x, y, z);
   numbers.insert(numbers.end(), {x, y, z});

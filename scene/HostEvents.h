@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace quorb {
 
@@ -37,6 +39,8 @@ class HostEvents {
   virtual void MouseMove(int, int, double, double) {}
   virtual void MouseUp(int, int, double, double) {}
   virtual void DoubleClick() {}
+  /// What stands under a pick, as OpenGL's selection buffer gives it.
+  virtual void Pick(const std::vector<std::int32_t>&) {}
   /// Notches of the wheel, above 0 away from the user.
   virtual void Wheel(double) {}
 

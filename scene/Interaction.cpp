@@ -79,8 +79,7 @@ void PanBy(ClassGl& scene, double x, double y) {
 
 void ZoomBy(ClassGl& scene, double y) {
   if (y == scene.MouseLastY) return;
-  const double gain = ColumnMode == 1 ? scene.InvRange / 10 : scene.InvRange;
-  ZoomStep(scene.Host.Camera(), y < scene.MouseLastY ? gain : -gain);
+  ZoomStep(scene.Host.Camera(), y < scene.MouseLastY ? ZoomGain(scene) : -ZoomGain(scene));
 }
 
 void DollyBy(ClassGl& scene, double y) {
@@ -90,6 +89,7 @@ void DollyBy(ClassGl& scene, double y) {
 }
 
 void RollBy(ClassGl& scene, const NormalPlace& place) {
+  // The angle is in radians, and the camera takes it for degrees: so an event turns by 3 degrees at most.
   const float angle =
       Atan2s(static_cast<float>(place.x - scene.MouseNormX), static_cast<float>(place.y - scene.MouseNormY));
   scene.Host.Camera().Roll(place.x < 0 ? -angle : angle);
@@ -142,6 +142,10 @@ void Drag(ClassGl& scene, int button, double x, double y) {
 
 }  // namespace
 
+double ZoomGain(const ClassGl& scene) {
+  return ColumnMode == 1 ? scene.InvRange / 10 : scene.InvRange;
+}
+
 void ZoomStep(HostCamera& camera, double gain) {
   if (camera.GetProjection() == 0) return camera.Zoom(gain > 0 ? kZoomIn : kZoomOut);
   double left = 0, right = 0, bottom = 0, top = 0;
@@ -171,11 +175,13 @@ void ClassGl::EditState(int value) {
 
 void ClassGl::ToggleWhiteBack() {
   WhiteBack = 1 - WhiteBack;
+  if (!Host.MakeCurrent()) return;
   if (WhiteBack == 1) {
     glClearColor(1, 1, 1, 0);
   } else {
     SetClearColour(USERFLAG.ColourBackground);
   }
+  Host.DoneCurrent();
 }
 
 void ClassGl::SetCursor(int id, const std::string& icon) {

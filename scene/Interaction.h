@@ -23,11 +23,15 @@ enum class MouseMode {
   frozenStart = 17,
 };
 
+class ClassGl;
 class HostCamera;
 
-/// One step of a zoom, as a drag makes it: to `gain` times the window's width and height it is narrowed on
-/// each side, or widened with a `gain` below 0; a perspective view is narrowed or widened by a twentieth. A
-/// window that would have no extent stays.
+/// The share of the window that one step of a zoom takes off each of its sides.
+double ZoomGain(const ClassGl& scene);
+
+/// One step of a zoom. The orthographic window loses `gain` times its width on the left and on the right, and
+/// `gain` times its height at the top and at the bottom; with a gain below 0 it wins as much. A window that
+/// would have no extent stays. A perspective view is narrowed by a twentieth, or widened with a gain below 0.
 void ZoomStep(HostCamera& camera, double gain);
 
 }  // namespace quorb

@@ -2,6 +2,9 @@
 
 #include <GL/gl.h>
 
+#include <cmath>
+#include <cstdint>
+
 #include "UserFlag.h"
 
 namespace quorb {
@@ -25,9 +28,11 @@ inline void SetClearColour(const OptionColour& colour) {
                static_cast<GLfloat>(colour.blue / kColourDivisor), 1);
 }
 
-/// An option colour as R x 65536 + G x 256 + B, the form that the host's texts take.
+/// An option colour as R x 65536 + G x 256 + B, the form that the host's texts take; 0 for one outside 32
+/// bits.
 inline int PackedColour(const OptionColour& colour) {
-  return static_cast<int>(colour.red * 65536 + colour.green * 256 + colour.blue);
+  const double packed = colour.red * 65536 + colour.green * 256 + colour.blue;
+  return std::abs(packed) <= INT32_MAX ? static_cast<int>(packed) : 0;
 }
 
 /// A vertex at three consecutive numbers.

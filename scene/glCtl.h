@@ -160,8 +160,13 @@ class glCtl {
   virtual void TrackballMove(int x, int y) = 0;
   virtual void TrackballEnd() = 0;
 
+  /// Makes the context current, outside of the host's own events. False before it is ready. DoneCurrent puts
+  /// the context that was current back.
+  virtual bool MakeCurrent() = 0;
+  virtual void DoneCurrent() = 0;
+
   /// Makes the context current, with the picture of the last frame as the one that glReadPixels reads. False
-  /// when there is none. EndReading puts the context back.
+  /// when there is none. EndReading puts the context, and how it takes and gives pixels, back.
   virtual bool BeginReading() = 0;
   virtual void EndReading() = 0;
 

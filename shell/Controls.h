@@ -14,6 +14,9 @@ namespace quorb {
 
 class Control;
 
+/// Twips to a pixel at 96 dots an inch.
+inline constexpr double kTwipsPerPixel = 15;
+
 /// A property that a widget shows: assigning another value refreshes the widget.
 template <typename T>
 class Shown {

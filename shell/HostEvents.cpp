@@ -20,9 +20,9 @@ WindowOfScene windowOfScene;
 
 constexpr double kZoomStepsOfANotch = 4;
 
-/// The whole number nearest to a place or a count.
-int Pixel(double value) {
-  return static_cast<int>(std::lround(value));
+/// The pixel nearest to a place.
+int Pixel(double place) {
+  return static_cast<int>(std::lround(place));
 }
 
 class EventsOfHost : public HostEvents {
@@ -66,9 +66,10 @@ class EventsOfHost : public HostEvents {
     TheScene->MouseUp(button, shift, x, y);
   }
   void DoubleClick() override { glxCtl1_DblClick(); }
+  void Pick(const std::vector<std::int32_t>& hits) override { TheScene->Pick(hits); }
   void Wheel(double notches) override {
-    const int steps = Pixel(std::abs(notches) * kZoomStepsOfANotch);
-    const double gain = notches > 0 ? TheScene->InvRange : -TheScene->InvRange;
+    const auto steps = std::lround(std::abs(notches) * kZoomStepsOfANotch);
+    const double gain = notches > 0 ? ZoomGain(*TheScene) : -ZoomGain(*TheScene);
     for (int step = 0; step < steps; ++step)
       ZoomStep(glxCtl1->Camera(), gain);
     glxCtl1->Redraw();

@@ -11,8 +11,6 @@ namespace quorb {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
-
 void DesignPanel(MainWindow& window) {
   window.Options.visible = false;
   const char* const captions[] = {"no Plot Earth...", "no Colour Axis X", "Large Characters ", "no Plot Axis",

@@ -4,7 +4,8 @@ namespace quorb {
 
 // Change routines of the strip below the plot. They pass their values to the scene and write their labels.
 
-/// End of the redraw, in ten-thousandths of the plot; the second and every later touch slows the redraw down.
+/// End of the redraw, in ten-thousandths of the plot. Each run but the first, that of the load sequence, sets
+/// the slowest speed.
 void HScroll1_Change();
 /// Speed of the redraw: 2 to the power of the value, in rows.
 void HScroll2_Change();

@@ -38,7 +38,6 @@ constexpr const char* kProductWord = "Quorb";
 constexpr const char* kTagLine = "a worksheet in three dimensions, live  ";
 constexpr int kFirstYear = 1990;
 constexpr std::size_t kShortestFileName = 8;
-constexpr double kTwipsPerPixel = 15;
 
 constexpr int kKeyEnter = 13, kKeyPageUp = 33, kKeyPageDown = 34, kKeyLeft = 37, kKeyDown = 40, kKeyI = 73,
               kKeyT = 84;

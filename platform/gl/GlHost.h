@@ -72,7 +72,8 @@ class GlHost : public glCtl {
   /// Draws the texts that wait. Behind it the OpenGL state is what the draw and overlay events left.
   void EndFrame(int width, int height);
 
-  /// Deletes the display lists that came back, when enough of them wait. To be called behind the swap.
+  /// Deletes the display lists that came back, when enough of them wait. To be called between the swap and
+  /// the next frame.
   void DeleteReturnedLists();
 
   /// Frees what lives in the context; to be called with it current, before it goes.

@@ -63,12 +63,22 @@ void OffscreenHost::Frame() {
   DeleteReturnedLists();
 }
 
-bool OffscreenHost::BeginReading() {
+bool OffscreenHost::MakeCurrent() {
   if (events == nullptr) return false;
   context->MakeCurrent();
+  return true;
+}
+
+bool OffscreenHost::BeginReading() {
+  if (!MakeCurrent()) return false;
   target.Bind();
   glViewport(0, 0, width, height);
+  glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
   return true;
+}
+
+void OffscreenHost::EndReading() {
+  glPopClientAttrib();
 }
 
 PixelImage OffscreenHost::Pixels() const {

@@ -39,9 +39,12 @@ class OffscreenHost : public GlHost {
   void Redraw() override { frameWanted = true; }
   bool FrameWanted() const { return frameWanted; }
 
+  bool MakeCurrent() override;
+  void DoneCurrent() override {}
+
   /// The picture of the last frame, which is bound for reading between frames.
   bool BeginReading() override;
-  void EndReading() override {}
+  void EndReading() override;
 
   int Width() const override { return width; }
   int Height() const override { return height; }

@@ -5,14 +5,8 @@
 
 namespace quorb {
 
-bool PictureReader::Begin(QOpenGLWidget& widget, QSize devicePixels) {
-  if (!widget.isValid() || widget.defaultFramebufferObject() == 0) return false;
-  wasCurrent_ = QOpenGLContext::currentContext() == widget.context();
-  widget.makeCurrent();
-  if (!MakeCopy(widget, devicePixels)) {
-    End(widget);
-    return false;
-  }
+bool PictureReader::Bind(const QOpenGLWidget& widget, QSize devicePixels) {
+  if (widget.defaultFramebufferObject() == 0 || !MakeCopy(widget, devicePixels)) return false;
   QOpenGLExtraFunctions& gl = *widget.context()->extraFunctions();
   gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, widget.defaultFramebufferObject());
   gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, copy_->handle());
@@ -32,14 +26,6 @@ bool PictureReader::MakeCopy(const QOpenGLWidget& widget, QSize devicePixels) {
   copy_ = std::make_unique<QOpenGLFramebufferObject>(devicePixels, format);
   if (!copy_->isValid()) copy_.reset();
   return copy_ != nullptr;
-}
-
-void PictureReader::End(QOpenGLWidget& widget) const {
-  if (wasCurrent_) {
-    widget.makeCurrent();
-  } else {
-    widget.doneCurrent();
-  }
 }
 
 }  // namespace quorb

@@ -1,5 +1,7 @@
 #include "QtHost.h"
 
+#include <GL/gl.h>
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -16,7 +18,8 @@ namespace quorb {
 
 namespace {
 
-constexpr int kTickMilliseconds = 16;
+/// Just below 60 ticks a second.
+constexpr int kTickMilliseconds = 17;
 constexpr int kSamples = 4;
 /// What a wheel tells for one notch, and the part of it that is passed on; finer turns add up to that.
 constexpr double kNotch = 120;
@@ -61,8 +64,35 @@ class QtHost : public GlHost {
     }
   }
 
-  bool BeginReading() override { return reader_.Begin(widget_, DevicePixels(widget_)); }
-  void EndReading() override { reader_.End(widget_); }
+  bool MakeCurrent() override {
+    if (!widget_.isValid()) return false;
+    wasCurrent_ = QOpenGLContext::currentContext() == widget_.context();
+    widget_.makeCurrent();
+    return true;
+  }
+
+  void DoneCurrent() override {
+    if (wasCurrent_) {
+      widget_.makeCurrent();  // binds the widget's own picture again
+    } else {
+      widget_.doneCurrent();
+    }
+  }
+
+  bool BeginReading() override {
+    if (!MakeCurrent()) return false;
+    if (!reader_.Bind(widget_, DevicePixels(widget_))) {
+      DoneCurrent();
+      return false;
+    }
+    glPushClientAttrib(GL_CLIENT_PIXEL_STORE_BIT);
+    return true;
+  }
+
+  void EndReading() override {
+    glPopClientAttrib();
+    DoneCurrent();
+  }
 
   void ReleaseContext() {
     reader_.Release();
@@ -77,6 +107,7 @@ class QtHost : public GlHost {
  private:
   PlotWidget& widget_;
   PictureReader reader_;
+  bool wasCurrent_ = false;  ///< the widget's context was current when it was made so
 };
 
 PlotWidget::PlotWidget(QWidget* parent) : QOpenGLWidget(parent) {
@@ -133,11 +164,11 @@ void PlotWidget::resizeGL(int, int) {
 void PlotWidget::paintGL() {
   if (events_ == nullptr) return;
   const QSize size = DevicePixels(*this);
+  host_->DeleteReturnedLists();
   host_->BeginFrame(size.width(), size.height());
   events_->Draw();
   events_->Overlay();
   host_->EndFrame(size.width(), size.height());
-  host_->DeleteReturnedLists();
 }
 
 void PlotWidget::keyPressEvent(QKeyEvent* event) {

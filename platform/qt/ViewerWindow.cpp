@@ -20,7 +20,6 @@ namespace quorb {
 
 namespace {
 
-constexpr double kTwipsPerPixel = 15;
 constexpr int kBarWidth = 170;
 constexpr int kBarHeight = 15;
 constexpr int kButtonHeight = 19;
@@ -66,6 +65,7 @@ ViewerWindow::~ViewerWindow() {
 void ViewerWindow::Load(const std::string& commandLine) {
   Form_Load(commandLine, plot_->Host());
   TheScene->TheUpdateTimer.changed = [this](int milliseconds) {
+    lastTick_ = runTime_.elapsed();
     if (milliseconds > 0) {
       updateTimer_.start(milliseconds);
     } else {

@@ -131,6 +131,38 @@ TEST_F(ViewerWindow, TheSatelliteThatWasSwitchedOnIsThereBehindARestart) {
   EXPECT_GT(FindDifference(behind, before).share, 0.002) << "the bar of its size";
 }
 
+TEST_F(ViewerWindow, OptionsOfTheStoreRuleThePictureThoughSomeAreNoNumbers) {
+  std::filesystem::create_directories(run_.File("config/QuorbExcelPro"));
+  run_.Write("config/QuorbExcelPro/QuorbExcelProSettings.conf",
+             "[Use]\nSet08.00=wide\nSet26.00=300\nSet27.00=red\nSet28.00=-5\n");
+  const auto viewer = Start(QUORB_EXAMPLES "/transfer.qbv");
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  // The background: 300 counts as 255, a word and a number below 0 as 0.
+  const auto isRed = [this] {
+    const PixelImage corner = Screen("1x1+1270+790");
+    return corner.rgb.size() == 3 && corner.rgb[0] >= 253 && corner.rgb[1] == 0 && corner.rgb[2] == 0;
+  };
+  bool red = false;
+  for (int attempt = 0; attempt < 40 && !red; ++attempt) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(250));
+    red = isRed();
+  }
+  EXPECT_TRUE(red);
+  EXPECT_TRUE(viewer->Runs());
+}
+
+TEST_F(ViewerWindow, AStoreThatCannotBeWrittenIsNoHindrance) {
+  run_.Write("config", "a file where the directory of the settings should be");
+  const auto viewer = Start(QUORB_EXAMPLES "/transfer.qbv");
+  ASSERT_TRUE(WaitForWindow("Quorb"));
+  std::this_thread::sleep_for(std::chrono::seconds(1));
+  EXPECT_EQ(Drive("search --onlyvisible --name '.'").out, Drive("search --onlyvisible --name 'Quorb'").out)
+      << "no box is shown";
+  const std::string window = Drive("search --onlyvisible --name 'Quorb'").out;
+  ASSERT_TRUE(CloseWindow(display_.Name(), std::stoul(window)));
+  EXPECT_EQ(viewer->Wait(std::chrono::seconds(10)), 0);
+}
+
 TEST_F(ViewerWindow, HelpAndVersionNeedNoDisplay) {
   const ProgramOutcome help = run_.Run("/usr/bin/env", "-u DISPLAY '" QUORB_VIEWER_PROGRAM "' --help");
   EXPECT_EQ(help.status, 0);

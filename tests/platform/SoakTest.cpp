@@ -1,3 +1,4 @@
+#include <GL/gl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -16,10 +17,12 @@
 namespace quorb {
 namespace {
 
-constexpr int kFramesOfAShortRun = 6000;
+constexpr int kFramesOfAShortRun = 3000;
 /// Lists wait to be deleted, fonts and the driver fill their caches: from here on nothing may grow.
 constexpr int kFramesAhead = 1000;
 constexpr double kMostGrowthMegabytes = 16;
+/// The letters of the fonts, and a batch of axes lists that waits to be deleted.
+constexpr int kMostListsInUse = 1500;
 
 double ResidentMegabytes() {
   std::ifstream status("/proc/self/statm");
@@ -27,6 +30,13 @@ double ResidentMegabytes() {
   double resident = 0;
   status >> total >> resident;
   return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+int ListsUpTo(unsigned last) {
+  int lists = 0;
+  for (unsigned name = 1; name <= last; ++name)
+    lists += glIsList(name) == GL_TRUE ? 1 : 0;
+  return lists;
 }
 
 /// Frames to draw: QUORB_SOAK_FRAMES asks for another number than that of a short run.
@@ -82,6 +92,7 @@ TEST_F(Soak, AWindowLeftOpenDoesNotGrow) {
   const double growth = ResidentMegabytes() - before;
   RecordProperty("growth_megabytes", std::to_string(growth));
   EXPECT_LT(growth, kMostGrowthMegabytes);
+  EXPECT_LT(ListsUpTo(scene->glLISTE.Axes), kMostListsInUse) << "the axes' lists are given back";
 }
 
 }  // namespace

@@ -89,12 +89,14 @@ TEST_F(InteractionTest, TheFirstModeSetTakesTheWindowFromTheRange) {
 
 TEST_F(InteractionTest, LightBackTurnsTheBackgroundWhiteAndBack) {
   scene.EditState(15);
-  EXPECT_THAT(RecordedCalls(), ElementsAre("SetMousePointer(0, \"\")", "glClearColor(1, 1, 1, 0)"));
+  EXPECT_THAT(RecordedCalls(), ElementsAre("SetMousePointer(0, \"\")", "MakeCurrent()",
+                                           "glClearColor(1, 1, 1, 0)", "DoneCurrent()"));
   EXPECT_EQ(scene.WhiteBack, 1);
   ClearCalls();
   scene.EditState(15);
   EXPECT_THAT(RecordedCalls(),
-              ElementsAre("SetMousePointer(0, \"\")", "glClearColor(0.0390625, 0.078125, 0.2734375, 1)"));
+              ElementsAre("SetMousePointer(0, \"\")", "MakeCurrent()",
+                          "glClearColor(0.0390625, 0.078125, 0.2734375, 1)", "DoneCurrent()"));
   EXPECT_EQ(scene.WhiteBack, 0);
 }
 

@@ -217,6 +217,36 @@ TEST_F(PlotControlsTest, BarsDrivenToBothEndsWhileALoadRunsLeaveTheScenesRowsIns
   }
 }
 
+TEST_F(PlotControlsTest, BarsDrivenToBothEndsInsideALoadLeaveThePlotThatTheFileHas) {
+  std::string rows;
+  for (int row = 0; row < 50; ++row)
+    rows += std::to_string(row) + "\t2\t3\t4\r\n";
+  files.contents["/data/bars.qbv"] =
+      "From: \tBook\tSheet\t=0.5+LEN(\"Bars\")+MAX(A2:C51)+MAX(D2:D51)\t1.0\tTitle\tDate\tmark\t\r\n" + rows;
+  CommandFileMode = 1;
+  CommandFileName = "/data/bars.qbv";
+  int driven = 0;
+  dialogs.onPump = [&] {
+    if (LoadBusy == 1) ++driven;
+    for (ScrollBar* bar :
+         {&window.HScroll1, &window.HScroll2, &window.HScroll3, &window.HScroll4, &window.HScroll5,
+          &window.HScroll6, &window.HScroll7, &window.HScroll8, &window.HScroll10}) {
+      bar->value = bar->max;
+      bar->value = bar->min;
+    }
+    TheScene->Draw();
+  };
+  DEJADRAW = DEJARESET = FileMode = 0;
+  LoadPlot();
+  dialogs.onPump = nullptr;
+  EXPECT_GT(driven, 0);
+  EXPECT_EQ(LastPoint, 49);
+  EXPECT_DOUBLE_EQ(dataXYZT[49][1], 0.0245);  // 49 metres in kilometres, times the scale
+  TheScene->Draw();
+  EXPECT_EQ(TheScene->CURRINDEXI, 0);
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
+}
+
 // ---- design -----------------------------------------------------------------------------------------------
 
 TEST_F(PlotControlsTest, TheBarsAreDesignedWithTheirBounds) {

@@ -58,8 +58,7 @@ class NotingDialogs : public ScriptedDialogs {
 };
 
 /// A program at its start, with no files, an empty settings store, a desktop in the year 2026 and a recording
-/// host. What
-/// a test leaves in the process goes at its end.
+/// host. What a test leaves in the process goes at its end.
 class WindowFixture : public testing::Test {
  protected:
   WindowFixture() { StartAnew(); }

@@ -187,6 +187,11 @@ class RecordingHost : public glCtl {
   void TrackballStart(int button, int x, int y) override { RecordCallOf("TrackballStart", button, x, y); }
   void TrackballMove(int x, int y) override { RecordCallOf("TrackballMove", x, y); }
   void TrackballEnd() override { RecordCallOf("TrackballEnd"); }
+  bool MakeCurrent() override {
+    RecordCallOf("MakeCurrent");
+    return hasPicture;
+  }
+  void DoneCurrent() override { RecordCallOf("DoneCurrent"); }
   bool BeginReading() override {
     RecordCallOf("BeginReading");
     return hasPicture;

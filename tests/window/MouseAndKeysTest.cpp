@@ -116,6 +116,28 @@ TEST_F(MouseAndKeys, ACharacterPutsTheEyeOnTheOrigin) {
   EXPECT_EQ(std::vector<float>({x, y, z}), std::vector<float>({0, 1, 0}));
 }
 
+// The form steps the isometric walk, the plot steps it again, and the character then puts the eye on the
+// origin.
+TEST_F(MouseAndKeys, TheKeyIInThePlotStepsTwiceAndEndsAtTheOrigin) {
+  OpenSmallPlot();
+  plot->setFocus();
+  TheScene->CameraSteps.RealQuadrant = 0;
+  Key(Qt::Key_I);
+  EXPECT_EQ(frmMain->Check9.Tag, "REAL_ISO");
+  EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 2);
+  ExpectEye(0, 0, 0);
+}
+
+TEST_F(MouseAndKeys, TheKeyIOutsideThePlotStepsOnceAndShowsTheView) {
+  OpenSmallPlot();
+  window->findChild<QScrollBar*>()->setFocus();
+  TheScene->CameraSteps.RealQuadrant = 0;
+  Key(Qt::Key_I);
+  // Quadrant 1 round the axis Y: B 100, 100, A 100, with A -1 and B 1.
+  EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 1);
+  ExpectEye(100, 100, -100);
+}
+
 TEST_F(MouseAndKeys, KeysWithoutACharacterLeaveTheEye) {
   OpenSmallPlot();
   plot->setFocus();

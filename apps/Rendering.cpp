@@ -78,7 +78,8 @@ bool ReadView(const std::string& text, WantedView& view) {
 // The camera steps its walk with each call: it is set one step before the wanted one.
 void ApplyView(const WantedView& view) {
   frmMain->Check9.Tag.clear();
-  const int before = (view.step + StepsOf(view.mode) - 1) % StepsOf(view.mode);
+  const int steps = std::max(StepsOf(view.mode), 1);
+  const int before = (view.step + steps - 1) % steps;
   TheScene->CameraSteps.ViewStep = before;
   TheScene->CameraSteps.ProjStep = before;
   TheScene->CameraSet(view.mode, kUpwardAxis, 1);

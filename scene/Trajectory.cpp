@@ -119,7 +119,6 @@ void DrawPointLabel(ClassGl& scene, std::int64_t row) {
 void DrawEventLine(ClassGl& scene, std::int64_t first, std::int64_t last) {
   TrajectoryState& state = scene.Trajectory;
   EventWalk& events = state.Events;
-  const bool shadows = USERFLAG.CubicView == 1.0;
   for (std::int64_t i = first; i <= last; ++i) {
     const double* row = dataXYZT[i];
     const double time = row[0];
@@ -127,16 +126,15 @@ void DrawEventLine(ClassGl& scene, std::int64_t first, std::int64_t last) {
     if (row[4] == -1) {
       LiftPen(GL_LINE_STRIP);
     } else if (events.RowMark == 1) {
-      DrawMarkedPoint(state, i, shadows);
+      DrawMarkedPoint(state, i, false);
     } else {
       USERFLAG.MovieDataTime = time;
       PlaceVertex(row + 1);
-      if (shadows) DrawShadows(state, GL_LINE_STRIP, dataXYZT, i, row + 1);
     }
   }
 }
 
-/// A plot with colour values, or of separate objects.
+/// A plot with colour values, of separate objects, or with shadows on the cube.
 void DrawAnyRows(ClassGl& scene, std::int64_t first, std::int64_t last) {
   TrajectoryState& state = scene.Trajectory;
   const bool labels = PenUpLabelMode == 1 && PenUpLabelShow == 1;
@@ -172,7 +170,7 @@ void DrawRows(ClassGl& scene) {
   const std::int64_t last = std::min<std::int64_t>(scene.CURRINDEXI, kRowBound - 1);
   if (first > last) return;
   SeekFirstEvent(scene.Trajectory.Events, scene);
-  const bool plainLine = PenUpMode != 1 && ValColour != 1 && PenUpLabelMode != 1;
+  const bool plainLine = PenUpMode != 1 && ValColour != 1 && PenUpLabelMode != 1 && USERFLAG.CubicView != 1.0;
   if (plainLine) {
     DrawEventLine(scene, first, last);
   } else {

@@ -50,6 +50,7 @@ int main(int argc, char** argv) {
   SetSettings(&settings);
   SetFileAccess(&files);
   SetRegionalSettings(&region);
+  desktop.opensDataFiles = true;
   SetDesktop(&desktop);
   SetDayClock(&clock);
 

@@ -4,10 +4,14 @@
 #include "CommExcl.h"
 #include "CommandLine.h"
 #include "ConsoleDialogs.h"
+#include "FormulaReport.h"
+#include "LoaderLink.h"
 #include "NamedFile.h"
 #include "Normalise.h"
 #include "NumberText.h"
 #include "PlotReport.h"
+#include "RunState.h"
+#include "Settings.h"
 #include "SystemDesktop.h"
 #include "SystemFiles.h"
 #include "SystemRegion.h"
@@ -19,19 +23,25 @@ namespace {
 
 constexpr std::string_view kHelp =
     R"(Usage: quorb-inspect FILE [--rows ARRAY[:FIRST-LAST]] [--after-reset] [--log]
+       quorb-inspect --formula TEXT
 
-Tells what the loader makes of a data file, one name, a TAB and its value a line.
+Tells what the loader makes of a data file, or of a specification formula alone,
+one name, a TAB and its value a line.
 
   --rows ARRAY[:FIRST-LAST]  print the rows of one array and nothing else:
                              dataXYZT, dataEvents, dataEventLog, dataPenUpLabel,
                              dataQuater, dataSApY, dataSAmY or dataValZ
   --after-reset              the plot as the scene has scaled it for drawing
   --log                      print the loader's diagnostic log and nothing else
+  --formula TEXT             tell what the formula means, without a file: scale,
+                             title with and without its keywords, what these say,
+                             and the ranges as columns and rows
   --help                     show this text
   --version                  show the version
 
 Messages that the viewer would show go to standard error with their titles.
-Exit status: 0 rows were read, 1 the file gave none, 2 wrong call.
+Exit status: 0 rows were read, 1 the file gave none, 2 wrong call; of a formula:
+0 it names a range that holds X, Y and Z, 1 it names none.
 )";
 
 int WrongCall(const std::string& error) {
@@ -59,11 +69,25 @@ int Inspect(const CommandLine& call) {
   return kExitFailed;
 }
 
+int InspectFormula(const std::string& formula) {
+  StartRunState();
+  CreateMainWindow();
+  OptionsRead();
+  const FormulaReport report = ReportFormula(formula, LoaderLinkOfWindow());
+  std::cout << report.text;
+  if (report.holdsXYZ) return kExitOk;
+  std::cerr << "quorb-inspect: the formula names no range that holds X, Y and Z\n";
+  return kExitFailed;
+}
+
 int Run(const std::vector<std::string>& arguments) {
   if (AnswerHelpOrVersion(arguments, "quorb-inspect", kHelp)) return kExitOk;
-  const CommandLine call = ParseCommandLine(arguments, {"--rows"}, {"--after-reset", "--log"});
+  const CommandLine call = ParseCommandLine(arguments, {"--rows", "--formula"}, {"--after-reset", "--log"});
   if (!call.error.empty()) return WrongCall(call.error);
-  if (call.operands.size() != 1) return WrongCall("name one data file");
+  const auto formula = call.Value("--formula");
+  if (formula && (!call.operands.empty() || call.options.size() > 1))
+    return WrongCall("a formula goes with no file and no other option");
+  if (!formula && call.operands.size() != 1) return WrongCall("name one data file");
   ConsoleDialogs dialogs;
   SystemFiles files;
   SystemRegion region;
@@ -72,7 +96,7 @@ int Run(const std::vector<std::string>& arguments) {
   SetFileAccess(&files);
   SetRegionalSettings(&region);
   SetDesktop(&desktop);
-  return Inspect(call);
+  return formula ? InspectFormula(*formula) : Inspect(call);
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
 #include "CommExcl.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 
+#include "CellRange.h"
 #include "Conditioning.h"
 #include "DataChannel.h"
 #include "Faults.h"
 #include "FileChoice.h"
-#include "Mth.h"
 #include "PlotData.h"
 #include "RunState.h"
 #include "TextHelpers.h"
@@ -55,46 +54,23 @@ void TakeSpecification(const DataFileHeader& header, LoadState& load) {
   LastFormula = header.formula;
 }
 
-int TakeColumn(std::string_view& text) {
-  int column = 0;
-  for (; !text.empty() && text[0] >= 'A' && text[0] <= 'Z' && column <= kRowBound; text.remove_prefix(1)) {
-    column = column * 26 + (text[0] - 'A' + 1);
-  }
-  return column;
-}
-
-int TakeRow(std::string_view& text) {
-  int row = 0;
-  const auto taken = std::from_chars(text.data(), text.data() + text.size(), row);
-  text.remove_prefix(static_cast<std::size_t>(taken.ptr - text.data()));
-  return row;
-}
-
-struct RangeSize {
-  int columns = 0;
-  int rows = 0;
+/// The ranges of the file's formula whose size the load looks at; the others are only empty or not.
+struct FileRanges {
+  RangeNumbers XYZ, events, quater;
 };
 
-// Size of a range such as "A2:C2000"; 0 by 0 for any other text.
-RangeSize SizeOfRange(const std::string& range) {
-  const std::string upper = UpTrim(range);
-  std::string_view rest = upper;
-  const int firstColumn = TakeColumn(rest);
-  const int firstRow = TakeRow(rest);
-  if (!rest.starts_with(':')) return {};
-  rest.remove_prefix(1);
-  const int lastColumn = TakeColumn(rest);
-  const int lastRow = TakeRow(rest);
-  const bool isRange = rest.empty() && firstColumn > 0 && firstRow > 0 && lastColumn >= firstColumn;
-  if (!isRange || lastRow < firstRow) return {};
-  return {lastColumn - firstColumn + 1, lastRow - firstRow + 1};
+FileRanges ConvertRanges(const SpecificationText& specification) {
+  FileRanges ranges;
+  ConvertA1LC(specification.rangeXYZ, ranges.XYZ);
+  ConvertA1LC(specification.rangeEvents, ranges.events);
+  ConvertA1LC(specification.rangeQuater, ranges.quater);
+  return ranges;
 }
 
-bool IsOnlyXYZ(const SpecificationText& specification) {
-  return SizeOfRange(specification.rangeXYZ).columns == 3 && specification.rangeT.empty() &&
-         specification.rangeEvents.empty() && specification.rangeQuater.empty() &&
-         specification.rangeSApY.empty() && specification.rangeSAmY.empty() &&
-         specification.rangeValZ.empty();
+bool IsOnlyXYZ(const SpecificationText& specification, const RangeNumbers& XYZ) {
+  return XYZ.Ncol2 == XYZ.Ncol1 + 2 && specification.rangeT.empty() && specification.rangeEvents.empty() &&
+         specification.rangeQuater.empty() && specification.rangeSApY.empty() &&
+         specification.rangeSAmY.empty() && specification.rangeValZ.empty();
 }
 
 void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& window) {
@@ -108,12 +84,13 @@ void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& 
   load.pass.TimeInSeconds = load.keywords.TimeInSeconds;
   load.pass.LengthInMetres = load.keywords.LengthInMetres;
   window.AppendLog(" Check SpecialCasesPermutUnitsmoon rangeXYZ$ " + load.specification.rangeXYZ);
+  const FileRanges ranges = ConvertRanges(load.specification);
   USERFLAG.TimeInData = load.specification.rangeT.empty() ? 0.0 : 1.0;
-  load.wholeXYZ = PenUpMode == 1 && IsOnlyXYZ(load.specification);
+  load.wholeXYZ = PenUpMode == 1 && IsOnlyXYZ(load.specification, ranges.XYZ);
   load.pass.readValZ = !load.specification.rangeValZ.empty();
   lastLoad.headerRead = true;
   lastLoad.specification = load.specification;
-  load.pass.tick = std::max(SizeOfRange(load.specification.rangeXYZ).rows - 1, 0) / kBarMoves + 1;
+  load.pass.tick = std::max(ranges.XYZ.num2 - ranges.XYZ.num1, 0) / kBarMoves + 1;
   load.pass.bar = kBarAtRows;
   dataEventLog.text.Restart();
   dataPenUpLabel.Restart();
@@ -128,7 +105,7 @@ void ReadChosenFile(LoadState& load, LoaderWindow& window) {
   std::error_code unknown;
   window.AppendLog("ccdir$ " + std::filesystem::current_path(unknown).string());
   int ErrorNumber = kFaultNone;
-  ChooseFile(names, ErrorNumber, window);
+  load.isDemo = ChooseFile(names, ErrorNumber, window);
   lastLoad = LoadOutcome();
   lastLoad.ErrorNumber = ErrorNumber;
   std::string headerLine;
@@ -170,6 +147,9 @@ void LoadPlot() {
   LoadBusy = 1;
   window.ShowProgress(true);
   FILEcOMMANDnAME = CommandFileName;
+  window.RegisterFileType();
+  window.ShowProgress(true);
+  CloseChannel(1);
 
   LoadState load;
   load.keywords = StartKeywordPass();

@@ -108,13 +108,12 @@ void MeasureTimes() {
 }
 
 void ShiftAxes(int shift) {
+  const auto sourceOf = [shift](int target) { return target > shift ? target - shift : target - shift + 3; };
+  const int sources[] = {sourceOf(1), sourceOf(2), sourceOf(3)};
   for (std::int64_t i = 0; i < RowsThrough(LastPoint); ++i) {
-    std::array<double, 4> turned{};
-    for (int f = 1; f <= 3; ++f) {
-      const int target = f + shift > 3 ? f + shift - 3 : f + shift;
-      turned[static_cast<std::size_t>(target)] = dataXYZT[i][f];
-    }
-    std::copy(turned.begin() + 1, turned.end(), dataXYZT[i] + 1);
+    double* const row = dataXYZT[i];
+    const double turned[] = {row[sources[0]], row[sources[1]], row[sources[2]]};
+    std::copy(std::begin(turned), std::end(turned), row + 1);
   }
 }
 
@@ -166,8 +165,11 @@ void ConditionPlot(LoadState& load, LoaderWindow& window) {
   CountEvents(pass);
   if (PenUpMode == 1 && load.wholeXYZ) UseZAsTime();
   if (PenUpMode == 1) MeasureTimes();
+  if (load.isDemo) DressDemo(window);
   if (load.keywords.circularShift != 0) ShiftAxes(load.keywords.circularShift);
   if (load.keywords.exchange != 0) ExchangeAxes(load.keywords.exchange);
+  if (load.keywords.forcedScale) NedConversion(load.keywords, load.givenScale, pass.scale);
+  if (EMSystem == 1) EarthMoonFrame(pass.scale);
 }
 
 }  // namespace quorb

@@ -13,11 +13,13 @@ struct LoadState {
   TitleKeywords keywords = {};
   LoadPass pass;
   double givenScale = 1.0;  ///< the plot's scale, also while another one is forced for the rows
+  bool isDemo = false;      ///< the demonstration was announced
   bool wholeXYZ = false;    ///< PenUpMode, and the three columns of X, Y, Z are the only range
 };
 
 /// Brings the rows that were read to the plot that the scene draws: built-in plot when there are none, colour
-/// values, order of the quaternions, scale mode, events, extremes and axis changes, in this order.
+/// values, order of the quaternions, scale mode, events, extremes, dressing of the demonstration, axis
+/// changes and changes of frame, in this order.
 void ConditionPlot(LoadState& load, LoaderWindow& window);
 
 }  // namespace quorb

@@ -30,6 +30,10 @@ class FileAccess {
   /// Maps a regular file. A failure gives a null pointer and sets `errorNumber` to 52 bad name, 53 no such
   /// file, 70 no permission, 75 not a file that can be read, 76 no such directory; success sets it to 0.
   virtual std::unique_ptr<MappedFile> Map(const std::string& path, int& errorNumber) = 0;
+
+  /// Where a file of the program's directory really stands: there, or under the same name in the user's data
+  /// directory when this user cannot write there.
+  virtual std::string RealLocation(const std::string& path) const { return path; }
 };
 
 /// The files of this process. Until some are set, every file is missing (53).

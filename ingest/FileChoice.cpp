@@ -5,6 +5,7 @@
 #include "DataFile.h"
 #include "Dialogs.h"
 #include "Faults.h"
+#include "FileAccess.h"
 #include "RunState.h"
 
 namespace quorb {
@@ -50,8 +51,9 @@ void OpenNamedFile(int& ErrorNumber, LoaderWindow& window) {
 }
 
 void OpenLastFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {
-  OpenfileW(names.NameTempo, 1, ErrorNumber, window);
-  window.ShowReadingName(names.NameTempo);
+  const std::string readingName = CurrentFileAccess().RealLocation(names.NameTempo);
+  OpenfileW(readingName, 1, ErrorNumber, window);
+  window.ShowReadingName(readingName);
   if (ErrorNumber == kFaultFileNotFound || ErrorNumber == kFaultPathNotFound || FileMode == 1) {
     OpenfileW(names.NameTempoDemo, 1, ErrorNumber, window);
     window.AppendLog("NameTempoDemo$ " + names.NameTempoDemo);

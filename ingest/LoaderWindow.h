@@ -5,7 +5,7 @@
 namespace quorb {
 
 /// The controls of the main window that the loader reads and sets.
-enum class LoaderControl { Check1_0, Check3, Check5, Check9, Check11 };
+enum class LoaderControl { Check1_0, Check3, Check4, Check5, Check9, Check11 };
 
 /// What the loader asks of the main window. Values of check boxes are 0, 1 or 2.
 class LoaderWindow {
@@ -32,6 +32,12 @@ class LoaderWindow {
 
   /// The text of the option "Main KEYWORD Excel".
   virtual std::string MainKeywordText() const = 0;
+  /// Sets the bar of the satellite's size, at most to its end.
+  virtual void SetSatelliteSize(double size) = 0;
+  /// Chooses the satellite's shape by its name in the list.
+  virtual void SetSatelliteShape(const std::string& name) = 0;
+  /// Ties the extension of data files to this program, where it is not yet.
+  virtual void RegisterFileType() = 0;
   /// Sets the bar of the redraw speed.
   virtual void SetSpeedBar(int value) = 0;
 

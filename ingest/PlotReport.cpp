@@ -3,22 +3,16 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cstdio>
 
 #include "CommExcl.h"
 #include "PlotData.h"
+#include "ReportLines.h"
 #include "RunState.h"
 #include "UserFlag.h"
 
 namespace quorb {
 
 namespace {
-
-std::string NumberCell(double value) {
-  char digits[32];
-  const int length = std::snprintf(digits, sizeof digits, "%.17g", value);
-  return std::string(digits, static_cast<std::size_t>(length));
-}
 
 struct RowSpan {
   std::int64_t first = 0;
@@ -84,50 +78,46 @@ struct ReportedArray {
 }  // namespace
 
 std::string PlotReport() {
-  std::string report;
-  const auto text = [&report](std::string_view name, std::string_view value) {
-    report.append(name).append("\t").append(value).append("\n");
-  };
-  const auto number = [&text](std::string_view name, double value) { text(name, NumberCell(value)); };
+  ReportLines report;
   const SpecificationText& specification = LastLoad().specification;
-  text("Title", MessageUserToPlot);
-  text("Formula", LastFormula);
-  number("FactorScale", FactorScale);
-  number("LastPoint", LastPoint);
-  number("NbEvents", NbEvents);
-  number("NbQuater", NbQuater);
-  number("NbSApY", NbSApY);
-  number("NbSAmY", NbSAmY);
-  number("NbValZ", NbValZ);
-  number("ISOmode", ISOmode);
-  number("ColumnMode", ColumnMode);
-  number("PenUpMode", PenUpMode);
-  number("PenUpLabelMode", PenUpLabelMode);
-  number("ValColour", ValColour);
-  number("ValAxis", ValAxis);
-  number("MoonFocus", MoonFocus);
-  number("FocusBody", FocusBody);
-  number("EMSystem", EMSystem);
-  number("EMDistance", EMDistance);
-  number("QuaterScalarLast", QuaterScalarLast);
-  text("InputInKm", InputInKm ? "True" : "False");
-  number("FlagOptionToPlot", FlagOptionToPlot);
-  number("TimeInData", USERFLAG.TimeInData);
-  number("NedInput", USERFLAG.NedInput);
-  number("EMView", USERFLAG.EMView);
-  number("LogoScale", USERFLAG.LogoScale);
-  number("ValZMin", ValZMin);
-  number("ValZMax", ValZMax);
-  number("TimeMin", TimeMin);
-  number("TimeMax", TimeMax);
-  text("rangeXYZ", specification.rangeXYZ);
-  text("rangeT", specification.rangeT);
-  text("rangeEvents", specification.rangeEvents);
-  text("rangeQuater", specification.rangeQuater);
-  text("rangeSApY", specification.rangeSApY);
-  text("rangeSAmY", specification.rangeSAmY);
-  text("rangeValZ", specification.rangeValZ);
-  return report;
+  report.Text("Title", MessageUserToPlot);
+  report.Text("Formula", LastFormula);
+  report.Number("FactorScale", FactorScale);
+  report.Number("LastPoint", LastPoint);
+  report.Number("NbEvents", NbEvents);
+  report.Number("NbQuater", NbQuater);
+  report.Number("NbSApY", NbSApY);
+  report.Number("NbSAmY", NbSAmY);
+  report.Number("NbValZ", NbValZ);
+  report.Number("ISOmode", ISOmode);
+  report.Number("ColumnMode", ColumnMode);
+  report.Number("PenUpMode", PenUpMode);
+  report.Number("PenUpLabelMode", PenUpLabelMode);
+  report.Number("ValColour", ValColour);
+  report.Number("ValAxis", ValAxis);
+  report.Number("MoonFocus", MoonFocus);
+  report.Number("FocusBody", FocusBody);
+  report.Number("EMSystem", EMSystem);
+  report.Number("EMDistance", EMDistance);
+  report.Number("QuaterScalarLast", QuaterScalarLast);
+  report.Truth("InputInKm", InputInKm);
+  report.Number("FlagOptionToPlot", FlagOptionToPlot);
+  report.Number("TimeInData", USERFLAG.TimeInData);
+  report.Number("NedInput", USERFLAG.NedInput);
+  report.Number("EMView", USERFLAG.EMView);
+  report.Number("LogoScale", USERFLAG.LogoScale);
+  report.Number("ValZMin", ValZMin);
+  report.Number("ValZMax", ValZMax);
+  report.Number("TimeMin", TimeMin);
+  report.Number("TimeMax", TimeMax);
+  report.Text("rangeXYZ", specification.rangeXYZ);
+  report.Text("rangeT", specification.rangeT);
+  report.Text("rangeEvents", specification.rangeEvents);
+  report.Text("rangeQuater", specification.rangeQuater);
+  report.Text("rangeSApY", specification.rangeSApY);
+  report.Text("rangeSAmY", specification.rangeSAmY);
+  report.Text("rangeValZ", specification.rangeValZ);
+  return report.Take();
 }
 
 std::optional<std::string> RowsReport(std::string_view wanted) {

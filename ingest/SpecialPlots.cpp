@@ -1,6 +1,8 @@
 #include "SpecialPlots.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "PlotData.h"
 
@@ -19,6 +21,20 @@ void BuiltInPlot(int& row, double& scale) {
   }
   row = 9;
   scale = 1.0 / 1000;
+}
+
+void DressDemo(LoaderWindow& window) {
+  constexpr double kRadiusOfSizeOne = 7500.0 * 82;
+  double radius = 0;
+  const std::int64_t rows = std::clamp<std::int64_t>(std::int64_t{LastPoint} + 1, 0, kRowBound);
+  for (std::int64_t row = 0; row < rows; ++row) {
+    const double* cells = dataXYZT[row];
+    radius = std::max(radius, std::sqrt(cells[1] * cells[1] + cells[2] * cells[2] + cells[3] * cells[3]));
+  }
+  window.SetValue(LoaderControl::Check3, 1);
+  window.SetValue(LoaderControl::Check4, 1);
+  window.SetSatelliteSize(radius / kRadiusOfSizeOne);
+  window.SetSatelliteShape("GEO satcom");
 }
 
 }  // namespace quorb

@@ -9,6 +9,7 @@ class NoDesktop : public Desktop {
   int Year() const override { return 0; }
   std::string ProgramDirectory() const override { return {}; }
   std::string DataDirectory() const override { return {}; }
+  void RegisterFileType() override {}
   char DirectoryMark() const override { return '/'; }
 };
 

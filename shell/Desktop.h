@@ -15,6 +15,9 @@ class Desktop {
   virtual std::string ProgramDirectory() const = 0;
   /// The user's own directory for the program's data, without a mark behind.
   virtual std::string DataDirectory() const = 0;
+  /// Ties the extension of data files to the program, for this user, where it is not yet. A failure is not
+  /// told.
+  virtual void RegisterFileType() = 0;
   /// The directory mark of file names.
   virtual char DirectoryMark() const = 0;
 };

@@ -1,7 +1,12 @@
 #include "LoaderLink.h"
 
+#include <algorithm>
+
+#include "Desktop.h"
 #include "OptionPanel.h"
 #include "RunState.h"
+#include "Settings.h"
+#include "SettingsStore.h"
 #include "frmMain.h"
 
 namespace quorb {
@@ -14,6 +19,8 @@ CheckBox& CheckOf(LoaderControl control) {
       return frmMain->Check1[0];
     case LoaderControl::Check3:
       return frmMain->Check3;
+    case LoaderControl::Check4:
+      return frmMain->Check4;
     case LoaderControl::Check5:
       return frmMain->Check5;
     case LoaderControl::Check9:
@@ -43,6 +50,18 @@ class LoaderLink : public LoaderWindow {
   void SetTag(LoaderControl control, const std::string& tag) override { CheckOf(control).Tag = tag; }
   void Show(LoaderControl control, bool visible) override { CheckOf(control).visible = visible; }
   std::string MainKeywordText() const override { return frmMain->Text9.text; }
+  void SetSatelliteSize(double size) override {
+    ScrollBar& bar = frmMain->HScroll3;
+    AssignNumber(bar.value, std::min<double>(size, bar.max));
+  }
+  void SetSatelliteShape(const std::string& name) override { frmMain->Combo2.text = name; }
+  void RegisterFileType() override {
+    CurrentDesktop().RegisterFileType();
+    if (frmMain->fileTypeStored) return;
+    frmMain->fileTypeStored = true;
+    CurrentSettings().Write(kSectionApp, "associateEXE", AppTitle);
+    CurrentSettings().Write(kSectionApp, "associateEXT", ".qbv");
+  }
   void SetSpeedBar(int value) override { frmMain->HScroll2.value = value; }
   void CameraSet(const std::string& mode, double value, double flag) override {
     if (TheScene != nullptr) TheScene->CameraSet(mode, value, flag);

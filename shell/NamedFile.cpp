@@ -18,6 +18,7 @@ void LoadNamedFile(const std::string& path) {
   StartRunState();
   NameDataFile(path);
   CreateMainWindow();
+  frmMain->fileTypeStored = true;  // a program without a window opens no data files for the desktop
   OptionsRead();
   USERFLAGfactory = USERFLAG;
   AppDir = CurrentDesktop().ProgramDirectory();

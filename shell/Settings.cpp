@@ -6,6 +6,7 @@
 
 #include "NumberPicture.h"
 #include "NumberText.h"
+#include "RunState.h"
 #include "SettingsStore.h"
 #include "UserFlag.h"
 #include "frmMain.h"
@@ -113,7 +114,8 @@ void OptionsRead() {
   USERFLAG.ShowSatellite = window.Check3.value;
   USERFLAG.SolarPanelToSun = window.Check4.value;
   USERFLAG.NoSunRay = window.Check1[9].value;
-  USERFLAG.EMView = window.Check1[10].value;
+  // The view of a plot in the Earth-Moon system is not the panel's to choose.
+  USERFLAG.EMView = EMSystem == 1 ? 1 : window.Check1[10].value.Get();
   USERFLAG.CubicView = window.Check9.value;
   USERFLAG.InMetres = window.Check10.value;
   ShowInteractiveInMenu();

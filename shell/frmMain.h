@@ -31,7 +31,7 @@ struct MainWindow {
   Control Toolbar1, ToolBoptions, StatusBar1, GlPlace;  ///< GlPlace is where the plot stands
 
   ProgressBar ProgressBar1;
-  ComboBox Combo1;
+  ComboBox Combo1, Combo2;
   TextBox TextTempo, Text14, Text20, Text21;
   Button Command6;
   Button imagespot;
@@ -56,6 +56,7 @@ struct MainWindow {
   int RedrawTouched = 0;     ///< 1 once the change routine of HScroll1 has run
   int MovieTouched = 0;      ///< the same for HScroll5
   MovieLabels movieLabels;
+  bool fileTypeStored = false;  ///< the settings tell which program opens data files
 
   Menu mnuFile, mnuFExit, mnuEdit, mnuView, mnuHelp, mnuUpdateExcel, mnuOptions, mnuOinteractive;
 };

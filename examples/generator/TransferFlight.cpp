@@ -11,7 +11,8 @@ namespace {
 constexpr double kSecondsPerDay = 86400;
 constexpr double kStartDay = 45818.25;  // 2025-06-10 06:00
 constexpr double kPerigeeRadius = kEarthRadius + 250;
-constexpr double kApogeeRadius = kEarthRadius + 35786;
+// Above the ring: the long burns before and behind the apogee give the difference away.
+constexpr double kApogeeRadius = kEarthRadius + 35853;
 constexpr double kInclination = 7 * std::numbers::pi / 180;
 
 constexpr double kThrustAcceleration = 1.5e-4;  // km/s^2, a 400 N engine on 2.7 t
@@ -25,11 +26,8 @@ constexpr double kExhaustSpeed = 3.148;      // km/s
 constexpr double kTankVelocityChange = 1.6;  // km/s
 
 constexpr int kStepSeconds = 10;
-constexpr double kNearRadius = 20000;
-constexpr int kRowSecondsNear = 30;
-constexpr int kRowSecondsFar = 120;
 
-/// Flies on step by step and notes the rows.
+/// Flies on step by step and notes a row behind each.
 class Recorder {
  public:
   Recorder() : state_(StateAtPerigee(kPerigeeRadius, kApogeeRadius, kInclination)) { NoteRow(false); }
@@ -41,8 +39,7 @@ class Recorder {
     const int steps = static_cast<int>(std::lround(seconds / kStepSeconds));
     for (int i = 0; i < steps; ++i) {
       Step(0);
-      const int rowSeconds = Length(state_.position) < kNearRadius ? kRowSecondsNear : kRowSecondsFar;
-      if (seconds_ - lastRowSeconds_ >= rowSeconds || i + 1 == steps) NoteRow(false);
+      NoteRow(false);
     }
   }
 
@@ -54,9 +51,8 @@ class Recorder {
     const double least = kThrustAcceleration * kStepSeconds / 2;
     while (seconds > 0 ? seconds_ < end : Length(VelocityToGain(state_)) > least) {
       Step(kThrustAcceleration);
-      if (seconds_ - lastRowSeconds_ >= kRowSecondsNear) NoteRow(true);
+      NoteRow(true);
     }
-    if (lastRowSeconds_ != seconds_) NoteRow(false);
     flight.rows.back().burning = false;
     flight.burns.push_back({start, Day()});
   }
@@ -74,12 +70,10 @@ class Recorder {
     const double dryMass = std::exp(-kTankVelocityChange / kExhaustSpeed);
     const double left = (std::exp(-velocityChange_ / kExhaustSpeed) - dryMass) / (1 - dryMass);
     flight.rows.push_back({Day(), state_, burning, std::max(0.0, left)});
-    lastRowSeconds_ = seconds_;
   }
 
   OrbitState state_;
   int seconds_ = 0;
-  int lastRowSeconds_ = 0;
   double velocityChange_ = 0;  // km/s so far
 };
 

@@ -25,9 +25,10 @@ struct Flight {
   std::vector<Burn> burns;
 };
 
-/// A transfer from an orbit of 250 km by 35,786 km at 7 degrees to the geostationary ring: one turn and a
-/// half without thrust, four burns of constant acceleration around successive apogees along VelocityToGain,
-/// the last one until there is nothing to gain, then one turn of the ring.
+/// A transfer from an orbit of 250 km by 35,853 km height at 7 degrees to the geostationary ring: one turn
+/// and a half without thrust, four burns of constant acceleration around successive apogees along
+/// VelocityToGain, the last one until there is nothing to gain, then one turn of the ring. A row every ten
+/// seconds.
 Flight FlyTransfer();
 
 }  // namespace quorb

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <system_error>
 
+#include "ExampleFiles.h"
 #include "SystemRegion.h"
 #include "TransferFile.h"
 
@@ -17,6 +18,18 @@ bool WriteFile(const std::filesystem::path& path, const std::string& text) {
   return !file.fail();
 }
 
+/// The demonstration goes beside the programs, the small examples into a folder there.
+bool WriteAll(const std::filesystem::path& directory) {
+  const std::string demonstration = "QuorbExcelProDemo.qbv";
+  bool written = WriteFile(directory / demonstration,
+                           quorb::DataFileOf(quorb::TransferTable(quorb::FlyTransfer()), demonstration));
+  for (const quorb::ExampleFile& example : quorb::ExampleFiles())
+    written =
+        WriteFile(directory / "examples" / example.name, quorb::DataFileOf(example.table(), example.name)) &&
+        written;
+  return written;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -28,6 +41,6 @@ int main(int argc, char** argv) {
   quorb::SetRegionalSettings(&region);
   const std::filesystem::path directory = argv[1];
   std::error_code fault;
-  std::filesystem::create_directories(directory, fault);
-  return WriteFile(directory / "transfer.qbv", quorb::TransferFileText(quorb::FlyTransfer())) ? 0 : 1;
+  std::filesystem::create_directories(directory / "examples", fault);
+  return WriteAll(directory) ? 0 : 1;
 }

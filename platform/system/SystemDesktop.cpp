@@ -1,20 +1,12 @@
 #include "SystemDesktop.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 
+#include "FileType.h"
+
 namespace quorb {
-
-namespace {
-
-std::string Environment(const char* name) {
-  const char* const value = std::getenv(name);
-  return value != nullptr ? value : "";
-}
-
-}  // namespace
 
 int SystemDesktop::Year() const {
   const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
@@ -29,9 +21,16 @@ std::string SystemDesktop::ProgramDirectory() const {
 }
 
 std::string SystemDesktop::DataDirectory() const {
-  const std::string data = Environment("XDG_DATA_HOME");
-  const std::string base = data.empty() ? Environment("HOME") + "/.local/share" : data;
-  return base + "/QuorbExcelPro";
+  return CurrentUserDirectories().data + "/QuorbExcelPro";
+}
+
+void SystemDesktop::RegisterFileType() {
+  if (!opensDataFiles) return;
+  std::error_code failed;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", failed);
+  if (failed) return;
+  const UserDirectories directories = CurrentUserDirectories();
+  if (TieFileType(directories, program.string())) AnnounceFileType(directories);
 }
 
 char SystemDesktop::DirectoryMark() const {

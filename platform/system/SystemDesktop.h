@@ -10,7 +10,11 @@ class SystemDesktop : public Desktop {
   int Year() const override;
   std::string ProgramDirectory() const override;
   std::string DataDirectory() const override;
+  void RegisterFileType() override;
   char DirectoryMark() const override;
+
+  /// Whether this program is the one that data files are opened with: the viewer sets it.
+  bool opensDataFiles = false;
 };
 
 }  // namespace quorb

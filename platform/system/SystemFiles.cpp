@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "Faults.h"
+#include "UserDirectories.h"
 
 namespace quorb {
 
@@ -149,6 +150,14 @@ std::unique_ptr<MappedFile> MapDescriptor(int descriptor, int& errorNumber) {
 }
 
 }  // namespace
+
+std::string SystemFiles::RealLocation(const std::string& path) const {
+  const std::filesystem::path whole = path;
+  const std::string directory = whole.parent_path().string();
+  const bool isReadOnly = access(directory.c_str(), W_OK) != 0 && (errno == EACCES || errno == EROFS);
+  if (!isReadOnly) return path;
+  return CurrentUserDirectories().data + "/QuorbExcelPro/" + whole.filename().string();
+}
 
 std::unique_ptr<MappedFile> SystemFiles::Map(const std::string& path, int& errorNumber) {
   InstallGuard();

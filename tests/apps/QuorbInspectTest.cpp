@@ -30,19 +30,25 @@ TEST_F(QuorbInspect, HelpIsAnsweredBeforeAnythingElse) {
   EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome.out,
             "Usage: quorb-inspect FILE [--rows ARRAY[:FIRST-LAST]] [--after-reset] [--log]\n"
+            "       quorb-inspect --formula TEXT\n"
             "\n"
-            "Tells what the loader makes of a data file, one name, a TAB and its value a line.\n"
+            "Tells what the loader makes of a data file, or of a specification formula alone,\n"
+            "one name, a TAB and its value a line.\n"
             "\n"
             "  --rows ARRAY[:FIRST-LAST]  print the rows of one array and nothing else:\n"
             "                             dataXYZT, dataEvents, dataEventLog, dataPenUpLabel,\n"
             "                             dataQuater, dataSApY, dataSAmY or dataValZ\n"
             "  --after-reset              the plot as the scene has scaled it for drawing\n"
             "  --log                      print the loader's diagnostic log and nothing else\n"
+            "  --formula TEXT             tell what the formula means, without a file: scale,\n"
+            "                             title with and without its keywords, what these say,\n"
+            "                             and the ranges as columns and rows\n"
             "  --help                     show this text\n"
             "  --version                  show the version\n"
             "\n"
             "Messages that the viewer would show go to standard error with their titles.\n"
-            "Exit status: 0 rows were read, 1 the file gave none, 2 wrong call.\n");
+            "Exit status: 0 rows were read, 1 the file gave none, 2 wrong call; of a formula:\n"
+            "0 it names a range that holds X, Y and Z, 1 it names none.\n");
 }
 
 TEST_F(QuorbInspect, VersionIsAnswered) {
@@ -121,6 +127,46 @@ TEST_F(QuorbInspect, WrongCallsGiveStatusTwo) {
   for (const char* arguments :
        {"", "a b", "--rows dataXYZT", "plot.qbv --rows dataNone", "plot.qbv --rows dataXYZT:1",
         "plot.qbv --rows dataXYZT:x-2", "plot.qbv --nonsense"}) {
+    const ProgramOutcome outcome = Run(arguments);
+    EXPECT_EQ(outcome.status, 2) << arguments;
+    EXPECT_THAT(outcome.err, HasSubstr("(see quorb-inspect --help)")) << arguments;
+    EXPECT_EQ(outcome.out, "") << arguments;
+  }
+}
+
+TEST_F(QuorbInspect, TellsWhatAFormulaMeansWithoutAFile) {
+  const ProgramOutcome outcome = Run("--formula '=0.01+LEN(\"Transfer kmday\")+MAX(A2:C2000)+MAX(D2:D2000)'");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_THAT(outcome.out, StartsWith("Formula\t=0.01+LEN(\"Transfer kmday\")+MAX(A2:C2000)+MAX(D2:D2000)\n"
+                                      "MainKeyword\tMAX\nFactorScale\t0.01\nTitleAsGiven\tTransfer kmday\n"
+                                      "Title\tTransfer\nTimeInSeconds\tFalse\nLengthInMetres\tFalse\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\nrangeT\tD2:D2000\nrangeT.columns\t4-4\nrangeT.rows\t2-2000\n"));
+}
+
+TEST_F(QuorbInspect, MessagesOfAFormulaGoToStandardErrorWithTheirTitles) {
+  const ProgramOutcome outcome = Run("'--formula==MAX(A02:C20)'");
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.err,
+            "Error entry: High Entry not compatible with the requirements Excel form for the range of cells: "
+            "should be like A10:C200 \n");
+  EXPECT_THAT(outcome.out, HasSubstr("rangeXYZ.columns\t1-3\nrangeXYZ.rows\t2-20\n"));
+}
+
+TEST_F(QuorbInspect, AFormulaWithoutXYZGivesStatusOne) {
+  for (const char* formula : {"''", "'=1'", "'=MAX(A:C)'", "'=MAX(A2:B9)'"}) {
+    const ProgramOutcome outcome = Run(std::string("--formula ") + formula);
+    EXPECT_EQ(outcome.status, 1) << formula;
+    EXPECT_THAT(outcome.err, HasSubstr("quorb-inspect: the formula names no range that holds X, Y and Z\n"))
+        << formula;
+    EXPECT_THAT(outcome.out, StartsWith("Formula\t")) << formula;
+  }
+}
+
+TEST_F(QuorbInspect, AFormulaGoesWithNothingElse) {
+  run_.Write("plot.qbv", DataFileText(kFormula, kRows));
+  for (const char* arguments : {"plot.qbv --formula '=MAX(A2:C9)'", "--formula '=MAX(A2:C9)' --log",
+                                "--formula '=MAX(A2:C9)' --formula x", "--formula"}) {
     const ProgramOutcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_THAT(outcome.err, HasSubstr("(see quorb-inspect --help)")) << arguments;

@@ -96,5 +96,24 @@ TEST_F(LoaderLinkTest, ACameraViewNeedsAScene) {
   EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetUp(0, 1, 0)"));
 }
 
+TEST_F(LoaderLinkTest, TheSatellitesSizeIsAtMostTheEndOfItsBar) {
+  LoaderLinkOfWindow().SetSatelliteSize(8.13);
+  EXPECT_EQ(frmMain->HScroll3.value, 8);
+  LoaderLinkOfWindow().SetSatelliteSize(1e9);
+  EXPECT_EQ(frmMain->HScroll3.value, 32000);
+  LoaderLinkOfWindow().SetSatelliteShape("GEO satcom");
+  EXPECT_EQ(frmMain->Combo2.text.Get(), "GEO satcom");
+}
+
+TEST_F(LoaderLinkTest, TheFileTypeIsTiedAtEachLoadAndStoredOncePerRun) {
+  LoaderLinkOfWindow().RegisterFileType();
+  EXPECT_EQ(settings.MapSettingsStore::Read("App", "associateEXE", ""), "QuorbExcelPro");
+  EXPECT_EQ(settings.MapSettingsStore::Read("App", "associateEXT", ""), ".qbv");
+  settings.entries.clear();
+  LoaderLinkOfWindow().RegisterFileType();
+  EXPECT_EQ(desktop.registrations, 2);
+  EXPECT_TRUE(settings.entries.empty());
+}
+
 }  // namespace
 }  // namespace quorb

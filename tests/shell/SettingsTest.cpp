@@ -300,6 +300,15 @@ TEST_F(SettingsTest, AStoreThatCannotBeWrittenIsNotReported) {
 
 // ---- OptionAffecteUser ------------------------------------------------------------------------------------
 
+TEST_F(SettingsTest, TheViewOfTheEarthMoonSystemIsNotThePanelsToTakeAway) {
+  EMSystem = 1;
+  OptionsRead();
+  EXPECT_EQ(USERFLAG.EMView, 1);
+  EMSystem = 0;
+  OptionsRead();
+  EXPECT_EQ(USERFLAG.EMView, 0);
+}
+
 TEST_F(SettingsTest, SlotsThatAreAll0LeaveThePanel) {
   OptionSlots.fill("0");
   OptionAffecteUser();

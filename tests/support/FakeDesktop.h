@@ -17,9 +17,11 @@ class FakeDesktop : public Desktop {
   int Year() const override { return year; }
   std::string ProgramDirectory() const override { return programDirectory; }
   std::string DataDirectory() const override { return dataDirectory; }
+  void RegisterFileType() override { ++registrations; }
   char DirectoryMark() const override { return '/'; }
 
   int year = 2026;
+  int registrations = 0;
   std::string programDirectory = "/opt/quorb";
   std::string dataDirectory = "/home/user/quorb-data";
 };

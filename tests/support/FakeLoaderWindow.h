@@ -34,6 +34,9 @@ class FakeLoaderWindow : public LoaderWindow {
   std::map<LoaderControl, Control> controls;
   std::string keyword = "MAX";
   int speed = 0;
+  double satelliteSize = -1;
+  std::string satelliteShape;
+  int registrations = 0;
 
   /// "Command2_Click", "Form_Resize" and "CameraSet isonew" in the order in which they were called.
   std::vector<std::string> calls;
@@ -55,6 +58,9 @@ class FakeLoaderWindow : public LoaderWindow {
   void Show(LoaderControl control, bool visible) override { controls[control].visible = visible; }
 
   std::string MainKeywordText() const override { return keyword; }
+  void SetSatelliteSize(double size) override { satelliteSize = size; }
+  void SetSatelliteShape(const std::string& name) override { satelliteShape = name; }
+  void RegisterFileType() override { ++registrations; }
   void SetSpeedBar(int value) override { speed = value; }
   void CameraSet(const std::string& mode, double value, double flag) override {
     Note("CameraSet " + mode + " " + std::to_string(static_cast<int>(value)) + " " +

@@ -111,6 +111,7 @@ void ReadChosenFile(LoadState& load, LoaderWindow& window) {
   std::string headerLine;
   LinInputW(1, headerLine, window);
   window.AppendLog("frmMain.LinInputW  1, lin$ 'Line Input #1, lin " + headerLine);
+  MessageUserToPlot.clear();  // without a header, the title of the plot before says nothing to this one
   if (!AtEndOfFile(1) && ErrorNumber != kFaultBadFileName) ReadPlotFile(headerLine, load, window);
   if (LastPoint >= kRowBound) {
     window.AppendLog("The data file has more rows than the " + std::to_string(kRowBound) +

@@ -4,7 +4,6 @@
 
 #include "Ephemeris.h"
 #include "ModMATHASdbl.h"
-#include "Mth.h"
 #include "PlotData.h"
 #include "QuaterRoutine.h"
 #include "RunState.h"
@@ -15,8 +14,6 @@ namespace quorb {
 
 namespace {
 
-constexpr double kObliquity = 23.45;
-constexpr double kMoonNumber = 31;
 constexpr double kUnusedArgument = 4;
 /// Days from the sheet's day 0 to that of the ephemeris.
 constexpr double kEphemerisShift = 366;
@@ -39,9 +36,9 @@ std::int64_t PointRows() {
   return std::clamp<std::int64_t>(std::int64_t{LastPoint} + 1, 0, kRowBound);
 }
 
-/// A point without the scale; the zero vector for a row outside the arrays.
+/// A point without the scale; the zero vector for a row that the plot does not have.
 Vector3 PointAt(std::int64_t row, double scale) {
-  if (!dataXYZT.Holds(row)) return {};
+  if (row < 0 || row >= PointRows()) return {};
   const double* cells = dataXYZT[row];
   return {{cells[1] / scale, cells[2] / scale, cells[3] / scale}};
 }
@@ -75,9 +72,9 @@ inline void Store(double* cells, const Frame& frame, double x, double y, double 
   const double seenX = Along(frame.x, x, y, z) + shift(1);
   const double seenY = Along(frame.y, x, y, z) + shift(2);
   const double seenZ = Along(frame.z, x, y, z) + shift(3);
-  cells[1] = seenX * scale;
-  cells[2] = seenY * scale;
-  cells[3] = seenZ * scale;
+  AssignFinite(cells[1], seenX * scale);
+  AssignFinite(cells[2], seenY * scale);
+  AssignFinite(cells[3], seenZ * scale);
 }
 
 /// Square of the distance from the centre, as the cells stand: the scale changes no ratio.
@@ -99,8 +96,8 @@ Seam FindSeam() {
 
 double MoonDistance(double day) {
   Vector3 helio, geo, moon;
-  EphemerisAt(day - kEphemerisShift, kMoonNumber, kUnusedArgument, helio, geo);
-  EulerI(geo, 0, DegToRad(kObliquity), 0, moon);
+  EphemerisAt(day - kEphemerisShift, kMoonBody, kUnusedArgument, helio, geo);
+  EulerI(geo, 0, EclipticTilt, 0, moon);
   return norm(moon);
 }
 

@@ -23,9 +23,9 @@ void NedConversion(const TitleKeywords& place, double givenScale, double& scale)
     double x = 0, y = 0, z = 0;
     NedToEcef(origin, cells[1] / givenScale, cells[2] / givenScale, cells[3] / givenScale, x, y, z,
               kConversionScale);
-    cells[1] = x;
-    cells[2] = y;
-    cells[3] = z;
+    AssignFinite(cells[1], x);
+    AssignFinite(cells[2], y);
+    AssignFinite(cells[3], z);
   }
   scale = givenScale;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <bitset>
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -31,6 +32,11 @@ struct NumberTable {
   double* operator[](std::int64_t row) { return cell[row]; }
   const double* operator[](std::int64_t row) const { return cell[row]; }
 };
+
+/// Assigns a number that was computed; one that is beyond a double's range is a fault, and the cell stays.
+inline void AssignFinite(double& cell, double value) {
+  if (std::isfinite(value)) cell = value;
+}
 
 /// Sets the rows of a table from `rowsWritten` to two behind `counter` to 0: the scene looks at the rows just
 /// behind a table's last one, and no earlier plot may stand there.

@@ -60,8 +60,8 @@ double normseule(const Vector3& a);
 
 /// Brings `a` to length 1. A length of 0 shows "normafaute normalise vecteur nul = nul " and leaves `a` as it
 /// is; so does a length that `normseule` cannot form, behind its own dialog. A length that misses 1 by more
-/// than 1e-11 afterwards, as that of a vector around 1e-162, shows "normafaute normalise anormal en normant
-/// ".
+/// than 1e-11 afterwards, as that of a vector around 1e-162, shows
+/// "normafaute normalise anormal en normant " (with the blank at its end).
 void norma(Vector3& a);
 
 /// The matrix M(q) of the active rotation v' = q v q*, from body axes to reference axes: column 1 is the

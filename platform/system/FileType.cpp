@@ -4,10 +4,14 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
+#include <string_view>
 
+#include "TextHelpers.h"
 #include "WholeFile.h"
 
 namespace quorb {
@@ -17,23 +21,37 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kTypeName = "application/x-quorbexcelfile";
+constexpr std::string_view kSection = "[Default Applications]";
 constexpr const char* kEntryName = "QuorbExcelPro.desktop";
 
-std::string Contents(const fs::path& path) {
+/// The text of a file; empty when there is none, nothing when it cannot be read.
+std::optional<std::string> Contents(const fs::path& path) {
+  std::error_code code;
+  if (!fs::exists(path, code)) return std::string();
+  std::ifstream file(path, std::ios::binary);
   std::stringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
+  if (file.peek() != std::ifstream::traits_type::eof()) text << file.rdbuf();
+  if (!file.is_open() || file.bad() || text.bad()) return std::nullopt;
   return text.str();
 }
 
-/// True when the file had to be written.
-bool WriteWhenOther(const fs::path& path, const std::string& text, bool& failed) {
-  if (Contents(path) == text) return false;
+/// What came of the files that are to hold a text.
+struct Outcome {
+  bool written = false;
+  bool failed = false;
+};
+
+/// A link is followed, so that it stays one.
+void WriteWhenOther(const fs::path& path, const std::string& text, Outcome& outcome) {
+  if (Contents(path) == text) return;
   std::error_code code;
   fs::create_directories(path.parent_path(), code);
+  const fs::path target = fs::weakly_canonical(path, code);
   std::string error;
   const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text.data());
-  failed = failed || !WriteWholeFile(path.string(), {bytes, text.size()}, {}, error);
-  return true;
+  const bool done = WriteWholeFile(code ? path.string() : target.string(), {bytes, text.size()}, {}, error);
+  outcome.written = outcome.written || done;
+  outcome.failed = outcome.failed || !done;
 }
 
 std::string TypeText() {
@@ -47,8 +65,11 @@ std::string TypeText() {
 std::string QuotedPath(const std::string& path) {
   std::string quoted = "\"";
   for (const char c : path) {
-    if (c == '"' || c == '`' || c == '$' || c == '\\') quoted += "\\\\";
-    quoted += c == '%' ? std::string("%%") : std::string(1, c);
+    // The entry's own escapes are undone first, the command's second: a backslash takes four.
+    if (c == '"' || c == '`' || c == '$') quoted += "\\\\";
+    if (c == '\\') quoted += "\\\\\\";
+    if (c == '%') quoted += '%';
+    quoted += c;
   }
   return quoted + '"';
 }
@@ -61,13 +82,24 @@ std::string EntryText(const std::string& program) {
 
 /// The user's choices of programs with this program as the default of the type; a choice that stands is kept.
 std::string WithDefault(const std::string& choices) {
-  if (choices.find(std::string(kTypeName) + "=") != std::string::npos) return choices;
   const std::string line = std::string(kTypeName) + "=" + kEntryName + "\n";
-  const std::string section = "[Default Applications]\n";
-  const std::size_t at = choices.find(section);
-  if (at != std::string::npos) return std::string(choices).insert(at + section.size(), line);
+  std::size_t behindSection = std::string::npos;
+  bool inSection = false;
+  for (std::size_t start = 0; start < choices.size();) {
+    const std::size_t end = std::min(choices.find('\n', start), choices.size());
+    std::string_view words = std::string_view(choices).substr(start, end - start);
+    if (words.ends_with('\r')) words.remove_suffix(1);
+    words = Trim(words);
+    start = std::min(end + 1, choices.size());
+    if (words.starts_with('[')) inSection = words == kSection;
+    if (words == kSection && behindSection == std::string::npos) behindSection = start;
+    if (inSection && words.starts_with(std::string(kTypeName) + "=")) return choices;
+  }
   const bool openLine = !choices.empty() && choices.back() != '\n';
-  return choices + (openLine ? "\n" : "") + section + line;
+  if (behindSection == std::string::npos)
+    return choices + (openLine ? "\n" : "") + std::string(kSection) + "\n" + line;
+  const bool sectionLast = behindSection == choices.size();
+  return std::string(choices).insert(behindSection, (sectionLast && openLine ? "\n" : "") + line);
 }
 
 /// Runs a tool of the desktop on a directory; a missing tool is no fault.
@@ -89,11 +121,11 @@ void RunOn(const char* tool, const std::string& directory) {
 bool TieFileType(const UserDirectories& directories, const std::string& program) {
   const fs::path data = directories.data;
   const fs::path choices = fs::path(directories.config) / "mimeapps.list";
-  bool failed = false;
-  bool written = WriteWhenOther(data / "mime/packages/quorbexcelfile.xml", TypeText(), failed);
-  written = WriteWhenOther(data / "applications" / kEntryName, EntryText(program), failed) || written;
-  written = WriteWhenOther(choices, WithDefault(Contents(choices)), failed) || written;
-  return written && !failed;
+  Outcome outcome;
+  WriteWhenOther(data / "mime/packages/quorbexcelfile.xml", TypeText(), outcome);
+  WriteWhenOther(data / "applications" / kEntryName, EntryText(program), outcome);
+  if (const auto chosen = Contents(choices)) WriteWhenOther(choices, WithDefault(*chosen), outcome);
+  return outcome.written && !outcome.failed;
 }
 
 void AnnounceFileType(const UserDirectories& directories) {

@@ -271,6 +271,15 @@ TEST_F(NoRowsTest, AMissingNamedFileGivesTheBuiltInPlot) {
   EXPECT_TRUE(window.HasLog("/data/none.qbv is NOT open, error:53 File not found"));
 }
 
+TEST_F(NoRowsTest, TheTitleOfThePlotBeforeSaysNothingToAPlotWithoutAHeader) {
+  LoadRows("1\t2\t3\t4\t\t\t4\t1\t2\t3\t4\r\n", "Attitude ESA Valz moon", 4);
+  ASSERT_EQ(dataQuater[0][1], 4);
+  LoadNamed("/data/missing.qbv");
+  EXPECT_EQ(dataQuater[0][1], 4) << "turned once only";
+  EXPECT_EQ(MessageUserToPlot, "");
+  EXPECT_EQ(ValColour + MoonFocus + QuaterScalarLast, 0);
+}
+
 TEST_F(NoRowsTest, ADirectoryAndAForbiddenFileGiveTheBuiltInPlot) {
   files.failures["/data"] = 75;
   LoadNamed("/data");

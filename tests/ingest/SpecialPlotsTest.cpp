@@ -41,13 +41,20 @@ TEST_F(SpecialPlotsTest, TheBuiltInPlotIsAClosedPentagonAroundTheOrigin) {
   const double radius = 307049.106105;
   ExpectPoint(0, 0, 0, 0);
   ExpectPoint(1, 0, 0, 0);
-  const double kTurn = 1e-5 * radius;  // its pi has five decimals
-  EXPECT_NEAR(dataXYZT[2][1], radius, 1);
-  EXPECT_NEAR(dataXYZT[3][1], radius * 0.30901699, kTurn);
-  EXPECT_NEAR(dataXYZT[3][2], radius * 0.95105652, kTurn);
-  EXPECT_NEAR(dataXYZT[4][1], radius * -0.80901699, kTurn);
+  // Its pi is 3.14159, so a full turn misses the circle by 2 x 2.6535898e-6: 1.6295 in Y.
+  EXPECT_NEAR(dataXYZT[2][1], radius, 1e-5);
+  EXPECT_NEAR(dataXYZT[2][2], radius * 5.3071796e-6, 1e-6);
   EXPECT_NEAR(dataXYZT[7][1], radius, kNear);
-  EXPECT_EQ(dataXYZT[7][3], 0);
+  EXPECT_EQ(dataXYZT[7][2], 0);
+  for (int i = 0; i <= 7; ++i) {
+    EXPECT_EQ(dataXYZT[i][0], 0);
+    EXPECT_EQ(dataXYZT[i][3], 0);
+  }
+  // Row 5: the angle -144 x 3.14159 / 180 = -2.513272, whose cosine is -0.80901575 and sine -0.58778697.
+  EXPECT_NEAR(dataXYZT[5][1], radius * -0.809015747, 1e-3);
+  EXPECT_NEAR(dataXYZT[5][2], radius * -0.587786970, 1e-3);
+  EXPECT_NEAR(dataXYZT[6][1], radius * 0.309018004, 1e-3);
+  EXPECT_NEAR(dataXYZT[6][2], radius * -0.951056188, 1e-3);
 }
 
 // ---- demonstration ----------------------------------------------------------------------------------------
@@ -108,6 +115,24 @@ TEST_F(SpecialPlotsTest, ALoadWithNedKeepsTheForcedScaleForTheDrawing) {
   EXPECT_NEAR(dataXYZT[0][1], 6379.137 * std::cos(longitude), 1e-6);
   EXPECT_NEAR(dataXYZT[0][2], 6379.137 * std::sin(longitude), 1e-6);
   EXPECT_NEAR(dataXYZT[0][3], 0, 1e-6);
+}
+
+// 100 m east, read with the scale 1.0001 and divided by the given 0.5: 0.10001 km / 0.5 = 0.20002, taken as
+// metres, times a thousandth.
+TEST_F(SpecialPlotsTest, OffsetsAreReadWithTheForcedScaleAndDividedByTheGivenOne) {
+  Load(Header(Formula("0.5 + ", "Flight ned 0 87.5 0", 1)) + "0\t0\t0\r\n0\t100\t0\r\n");
+  const double longitude = -79.5 * 3.14159265358979 / 180;
+  EXPECT_NEAR(dataXYZT[1][1] - dataXYZT[0][1], -0.00020002 * std::sin(longitude), 1e-11);
+  EXPECT_NEAR(dataXYZT[1][2] - dataXYZT[0][2], 0.00020002 * std::cos(longitude), 1e-11);
+}
+
+TEST_F(SpecialPlotsTest, APointThatWouldLeaveTheRangeOfNumbersStays) {
+  Load(Header(Formula("1e-300 + ", "Flight ned 0 87.5 0", 1)) + "0\t1e200\t0\r\n");
+  Load(Header(Formula("1e300 + ", "Flight em_system", 1)) + "1\t2\t3\r\n4\t5\t6\r\n1e-5\t0\t0\r\n");
+  for (int row = 0; row <= LastPoint; ++row) {
+    for (int column = 1; column <= 3; ++column)
+      EXPECT_TRUE(std::isfinite(dataXYZT[row][column])) << row << " " << column;
+  }
 }
 
 // ---- Earth and Moon ---------------------------------------------------------------------------------------
@@ -174,6 +199,29 @@ TEST_F(SpecialPlotsTest, TwoRowsAreEnough) {
   ExpectPoint(0, 1, 0, 0);
   ExpectPoint(1, 1, 0, 0);
   EXPECT_NEAR(EMDistance, 11000, 1e-9);
+}
+
+TEST_F(SpecialPlotsTest, RowsOfAnEarlierPlotAreNotLookedAt) {
+  dataXYZT.Set(2, 2, 500);
+  SetPoint(0, 1, 0, 0);
+  SetPoint(1, 10, 0, 0);
+  EarthMoonFrame(1);
+  EXPECT_NEAR(EMDistance, 11000, 1e-9);
+  ExpectPoint(1, 1, 0, 0);
+}
+
+TEST_F(SpecialPlotsTest, OnlyMoreThanTwiceOrLessThanHalfIsAJump) {
+  SetPoint(0, 100, 0, 0);
+  SetPoint(1, 200, 0, 0);
+  SetPoint(2, 100, 0, 0);
+  SetPoint(3, 0, 49, 0);
+  SetPoint(4, 0, 47, 0);
+  EarthMoonFrame(1);
+  // The seam is at row 3: -100 from there to -51, the Moon's place, and X turned toward it.
+  EXPECT_NEAR(EMDistance, 51000, 1e-9);
+  ExpectPoint(1, 200, 0, 0);
+  ExpectPoint(2, 100, 0, 0);
+  ExpectPoint(3, 100, 0, 0);
 }
 
 TEST_F(SpecialPlotsTest, ADistanceOfNoughtMakesNoJump) {

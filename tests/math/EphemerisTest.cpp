@@ -1,5 +1,6 @@
 #include "Ephemeris.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -387,6 +388,43 @@ TEST(ElementTableTest, AppearanceMarksJupiterAndSaturn) {
     EXPECT_EQ(AppearanceTable[body].marker, body == 5 ? 1 : body == 6 ? 2 : 0) << body;
   EXPECT_EQ(AppearanceTable[2].phase, (std::array<double, 3>{0.1, 2.4, -0.65}));
   EXPECT_EQ(AppearanceTable[9].diameter, 8.3);
+}
+
+TEST(BodyConstantsTest, EachBodyHasItsConstants) {
+  struct Expected {
+    const char* name;
+    double inclination, GM, period, orbitInclination, eccentricity, node, perihelion;
+    const char* focus;
+    double radius, rotation, tilt;
+  };
+  const Expected expected[] = {
+      {"Sun", 0, 1.3271244e20, 0, 0, 0, 0, 0, "mlkwy", 695000, 25, 0},
+      {"Mercury", 7.003, 2.20311e13, 87.969, 7.004, 0.2056, 48.35, 77.44, "Sun", 2439.7, 58.6462, 0},
+      {"Venus", 3.393636, 3.25e14, 224.701, 3.394, 0.0068, 76.72, 131.56, "Sun", 6051.8, -243.0187, 177.36},
+      {"Earth", 0, 3.986005e14, 365.256, 0, 0.0167, 354.9, 102.83, "Sun", 6378.14, 0.99727, 23.45},
+      {"Moon", 5.25, 4.902e12, 27.16642546, 5.15, 0.05, 0, 0, "Earth", 1737.4, 27.32166, 6.68},
+      {"Mars", 1.850303, 4.29e13, 686.98, 1.85, 0.0934, 49.6, 335.99, "Sun", 3397.2, 1.025957, 25.19},
+      {"Jupiter", 1.308736, 1.26712767e17, 4332.71, 1.308, 0.0483, 100.47, 15.63, "Sun", 71492, 0.41354,
+       3.13},
+      {"Saturn", 2.492519, 3.794063e16, 10759.5, 2.488, 0.056, 113.71, 92.8, "Sun", 60268, 0.44401, 25.33},
+      {"Uranus", 0.772464, 5.7945486e15, 30685, 0.774, 0.0461, 74.06, 176.29, "Sun", 25559, -0.71833, 97.86},
+      {"Neptune", 1.779242, 6.83654e15, 60190, 1.774, 0.0097, 131.81, 1.95, "Sun", 24746, 0.67125, 28.31},
+      {"Pluto", 17.17047, 9.555e11, 90800, 17.148, 0.2482, 110.42, -135.41, "Sun", 1160, -6.3872, 122.52},
+  };
+  for (std::size_t i = 0; i < std::size(expected); ++i) {
+    const BodyRecord& body = BodyConstants()[i];
+    const Expected& wanted = expected[i];
+    SCOPED_TRACE(wanted.name);
+    EXPECT_STREQ(body.Name, wanted.name);
+    EXPECT_STREQ(body.MainFocus, wanted.focus);
+    const double found[] = {body.Inclination,  body.GM,      body.Period,     body.OrbitInclination,
+                            body.Eccentricity, body.Node,    body.Perihelion, body.Radius,
+                            body.RotationDays, body.AxisTilt};
+    const double numbers[] = {wanted.inclination,  wanted.GM,   wanted.period,     wanted.orbitInclination,
+                              wanted.eccentricity, wanted.node, wanted.perihelion, wanted.radius,
+                              wanted.rotation,     wanted.tilt};
+    EXPECT_THAT(found, testing::ElementsAreArray(numbers));
+  }
 }
 
 TEST(BodyConstantsTest, FocusOfThePlanetsCarriesTheRounderSun) {

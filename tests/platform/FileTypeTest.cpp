@@ -76,6 +76,35 @@ TEST_F(FileTypeTest, AFileWithoutALastLineEndGetsOne) {
   EXPECT_THAT(Choices(), HasSubstr("x=y\n[Default Applications]\n"));
 }
 
+TEST_F(FileTypeTest, OnlyTheSectionOfDefaultsCounts) {
+  WriteChoices(
+      "[Added Associations]\r\napplication/x-quorbexcelfile=a.desktop;\r\n[Default Applications]\r\n");
+  EXPECT_TRUE(TieFileType(directories, "/opt/QuorbExcelPro"));
+  EXPECT_EQ(Choices(),
+            "[Added Associations]\r\napplication/x-quorbexcelfile=a.desktop;\r\n[Default Applications]\r\n"
+            "application/x-quorbexcelfile=QuorbExcelPro.desktop\n");
+}
+
+TEST_F(FileTypeTest, ALinkToTheChoicesStaysALink) {
+  std::filesystem::create_directories(directories.config);
+  std::ofstream(home.File("real.list")) << "[Default Applications]\n";
+  std::filesystem::create_symlink(home.File("real.list"), directories.config + "/mimeapps.list");
+  EXPECT_TRUE(TieFileType(directories, "/opt/QuorbExcelPro"));
+  EXPECT_TRUE(std::filesystem::is_symlink(directories.config + "/mimeapps.list"));
+  EXPECT_THAT(ContentsOfFile(home.File("real.list")), HasSubstr("QuorbExcelPro.desktop"));
+}
+
+TEST_F(FileTypeTest, ChoicesThatCannotBeReadAreLeftAlone) {
+  std::filesystem::create_directories(directories.config + "/mimeapps.list");
+  EXPECT_TRUE(TieFileType(directories, "/opt/QuorbExcelPro"));
+  EXPECT_TRUE(std::filesystem::is_directory(directories.config + "/mimeapps.list"));
+}
+
+TEST_F(FileTypeTest, MarksInThePathAreEscapedTwice) {
+  TieFileType(directories, "/a\"b/$c/d\\e/QuorbExcelPro");
+  EXPECT_THAT(Entry(), HasSubstr("\nExec=\"/a\\\\\"b/\\\\$c/d\\\\\\\\e/QuorbExcelPro\" %f\n"));
+}
+
 TEST_F(FileTypeTest, DirectoriesThatCannotBeMadeAreNoFault) {
   std::ofstream(home.File("file")) << "no directory";
   EXPECT_FALSE(TieFileType({home.File("file"), home.File("file")}, "/opt/QuorbExcelPro"));

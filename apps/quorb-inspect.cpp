@@ -74,6 +74,8 @@ int InspectFormula(const std::string& formula) {
   CreateMainWindow();
   OptionsRead();
   const FormulaReport report = ReportFormula(formula, LoaderLinkOfWindow());
+  for (const std::string& hint : report.hints)
+    std::cerr << "quorb-inspect: " << hint << '\n';
   std::cout << report.text;
   if (report.holdsXYZ) return kExitOk;
   std::cerr << "quorb-inspect: the formula names no range that holds X, Y and Z\n";

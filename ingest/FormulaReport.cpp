@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "FormulaHints.h"
 #include "Keywords.h"
 #include "PlotData.h"
 #include "RangeAnalysis.h"
@@ -68,7 +69,7 @@ PlotRange OnlyXYZ(PlotRange range) {
 
 void ReportRange(const std::string& name, const PlotRange& range, ReportLines& report) {
   const RangeNumbers& numbers = range.numbers;
-  const bool given = !range.text.empty();
+  const bool given = !range.text.empty() && numbers.Ncol1 > 0 && numbers.num1 > 0;
   report.Text(name, range.text);
   report.Text(name + ".columns", given ? FirstLast(numbers.Ncol1, numbers.Ncol2) : "");
   report.Text(name + ".rows", given ? FirstLast(numbers.num1, numbers.num2) : "");
@@ -86,6 +87,7 @@ FormulaReport ReportFormula(const std::string& formula, LoaderWindow& window) {
   const RangesFound found = NcolumnsUpdated(specification, formula, sheet, window, ranges);
   result.holdsXYZ =
       found == RangesFound::good && ranges.rangeXYZ.numbers.num1 > 0 && ranges.rangeXYZ.numbers.Ncol1 > 0;
+  result.hints = FormulaHints(formula, specification);
   const TitleKeywords keywords = RunKeywordPass(specification.title);
 
   ReportLines report;

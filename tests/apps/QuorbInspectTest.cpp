@@ -149,7 +149,8 @@ TEST_F(QuorbInspect, MessagesOfAFormulaGoToStandardErrorWithTheirTitles) {
   EXPECT_EQ(outcome.status, 0);
   EXPECT_EQ(outcome.err,
             "Error entry: High Entry not compatible with the requirements Excel form for the range of cells: "
-            "should be like A10:C200 \n");
+            "should be like A10:C200 \n"
+            "quorb-inspect: rangeXYZ: \"A02:C20\" is no range such as A2:C2000, with columns A to ZZ.\n");
   EXPECT_THAT(outcome.out, HasSubstr("rangeXYZ.columns\t1-3\nrangeXYZ.rows\t2-20\n"));
 }
 

@@ -6,6 +6,7 @@
 #include "ModMATHASdbl.h"
 #include "PlotData.h"
 #include "QuaterRoutine.h"
+#include "RowPairs.h"
 #include "RunState.h"
 #include "SpecialPlots.h"
 #include "UserFlag.h"
@@ -62,19 +63,14 @@ Frame FrameAlong(Vector3 direction) {
   return frame;
 }
 
-double Along(const Vector3& axis, double x, double y, double z) {
-  return axis(1) * x + axis(2) * y + axis(3) * z;
+TwoNumbers Along(const Vector3& axis, const TwoPoints& points) {
+  return axis(1) * points.x + axis(2) * points.y + axis(3) * points.z;
 }
 
-/// Writes a point into a row as a frame sees it, shifted there and times the scale.
-inline void Store(double* cells, const Frame& frame, double x, double y, double z, const Vector3& shift,
-                  double scale) {
-  const double seenX = Along(frame.x, x, y, z) + shift(1);
-  const double seenY = Along(frame.y, x, y, z) + shift(2);
-  const double seenZ = Along(frame.z, x, y, z) + shift(3);
-  AssignFinite(cells[1], seenX * scale);
-  AssignFinite(cells[2], seenY * scale);
-  AssignFinite(cells[3], seenZ * scale);
+/// The points as a frame sees them, shifted there.
+TwoPoints Seen(const Frame& frame, const TwoPoints& points, const Vector3& shift) {
+  return {Along(frame.x, points) + shift(1), Along(frame.y, points) + shift(2),
+          Along(frame.z, points) + shift(3)};
 }
 
 /// Square of the distance from the centre, as the cells stand: the scale changes no ratio.
@@ -102,10 +98,10 @@ double MoonDistance(double day) {
 }
 
 void MoveRows(std::int64_t first, std::int64_t last, const Frame& frame, const Vector3& shift, double scale) {
-  for (std::int64_t row = first; row <= last; ++row) {
-    double* cells = dataXYZT[row];
-    Store(cells, frame, cells[1] / scale, cells[2] / scale, cells[3] / scale, shift, scale);
-  }
+  ConvertPoints(first, last, [frame, shift, scale](const TwoPoints& points) {
+    const TwoPoints seen = Seen(frame, {points.x / scale, points.y / scale, points.z / scale}, shift);
+    return TwoPoints{seen.x * scale, seen.y * scale, seen.z * scale};
+  });
 }
 
 /// Each arc goes into the frame of its own motion at the seam, and the second one to where the first one
@@ -136,11 +132,7 @@ void EarthMoonFrame(double scale) {
   const Vector3 moon = JoinArcs(seam, scale);
   EMDistance = norm(moon) * kMetresPerKilometre;
   const Frame toMoon = FrameAlong(moon);
-  const std::int64_t rows = PointRows();
-  for (std::int64_t row = 0; row < rows; ++row) {
-    double* cells = dataXYZT[row];
-    Store(cells, toMoon, cells[1], cells[2], cells[3], {}, 1);
-  }
+  ConvertPoints(0, PointRows() - 1, [toMoon](const TwoPoints& points) { return Seen(toMoon, points, {}); });
 }
 
 }  // namespace quorb

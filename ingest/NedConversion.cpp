@@ -3,6 +3,7 @@
 
 #include "Geodesy.h"
 #include "PlotData.h"
+#include "RowPairs.h"
 #include "SpecialPlots.h"
 
 namespace quorb {
@@ -17,16 +18,13 @@ constexpr double kConversionScale = 1.0 / 1000;
 
 void NedConversion(const TitleKeywords& place, double givenScale, double& scale) {
   const NedPlace origin = NedPlaceAt(place.latitude, place.longitude - kLongitudeShift, place.distance);
-  const std::int64_t rows = std::clamp<std::int64_t>(std::int64_t{LastPoint} + 1, 0, kRowBound);
-  for (std::int64_t row = 0; row < rows; ++row) {
-    double* cells = dataXYZT[row];
-    double x = 0, y = 0, z = 0;
-    NedToEcef(origin, cells[1] / givenScale, cells[2] / givenScale, cells[3] / givenScale, x, y, z,
-              kConversionScale);
-    AssignFinite(cells[1], x);
-    AssignFinite(cells[2], y);
-    AssignFinite(cells[3], z);
-  }
+  const std::int64_t lastRow = std::min<std::int64_t>(LastPoint, kRowBound - 1);
+  ConvertPoints(0, lastRow, [origin, givenScale](const TwoPoints& offsets) {
+    TwoPoints points{};
+    NedToEcef(origin, offsets.x / givenScale, offsets.y / givenScale, offsets.z / givenScale, points.x,
+              points.y, points.z, kConversionScale);
+    return points;
+  });
   scale = givenScale;
 }
 

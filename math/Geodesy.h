@@ -33,9 +33,10 @@ struct NedPlace {
 NedPlace NedPlaceAt(double latitude, double longitude, double height);
 
 /// The Earth-fixed position of a point that is given by its offsets north, east and down from `place`, times
-/// `scale`.
-inline void NedToEcef(const NedPlace& place, double north, double east, double down, double& X, double& Y,
-                      double& Z, double scale) {
+/// `scale`; of one point, or of two with TwoNumbers.
+template <class Number>
+void NedToEcef(const NedPlace& place, Number north, Number east, Number down, Number& X, Number& Y, Number& Z,
+               double scale) {
   const double cl = place.cosLongitude;
   const double sl = place.sinLongitude;
   const double cp = place.cosLatitude;

@@ -100,6 +100,8 @@ struct Cell {
 
 // The whole number that the characters from `begin` to `end` are; 0 when they are none.
 int RowOf(const Characters& characters, std::size_t begin, std::size_t end) {
+  while (begin < end && characters[begin] == '0')
+    ++begin;
   if (end > begin + kLongestRow) return 0;
   int row = 0;
   for (std::size_t i = begin; i < end; ++i) {

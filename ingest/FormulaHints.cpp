@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "CellRange.h"
+#include "NumberText.h"
 #include "RunState.h"
 #include "TextHelpers.h"
 
@@ -38,6 +38,20 @@ bool IsRange(const std::string& upper) {
          IsCell(std::string_view(upper).substr(colon + 1));
 }
 
+/// Row of the cell at the end of a text.
+double RowOfLastCell(std::string_view text) {
+  std::size_t start = text.size();
+  while (start > 0 && text[start - 1] >= '0' && text[start - 1] <= '9')
+    --start;
+  return PlainNumber(text.substr(start));
+}
+
+bool EndsAboveItsStart(const std::string& upper) {
+  const std::size_t colon = upper.find(':');
+  if (colon == std::string::npos) return false;
+  return RowOfLastCell(upper) < RowOfLastCell(std::string_view(upper).substr(0, colon));
+}
+
 std::string WithoutBlanks(std::string text) {
   std::erase(text, ' ');
   return text;
@@ -52,8 +66,9 @@ void HintAtRange(const char* name, const std::string& range, std::vector<std::st
     hints.push_back(std::string(name) + ": \"" + range + "\" holds \"$\", which is not read; write " + plain +
                     ".");
   } else if (!IsRange(upper)) {
-    hints.push_back(std::string(name) + ": \"" + range +
-                    "\" is no range such as A2:C2000, with columns A to ZZ.");
+    hints.push_back(std::string(name) + ": \"" + range + "\" is no range such as A2:C2000.");
+  } else if (EndsAboveItsStart(upper)) {
+    hints.push_back(std::string(name) + ": \"" + range + "\" ends above its first row.");
   }
 }
 
@@ -70,6 +85,12 @@ std::vector<std::string> FormulaHints(const std::string& formula, const Specific
   if (terms > kMeanings) {
     hints.push_back("The formula has " + std::to_string(terms) + " terms with \"" + MainKeyword +
                     "\"; those behind the seventh are not read.");
+  }
+  if (CountOf(formula, "(") != CountOf(formula, ")"))
+    hints.push_back("The formula has not as many \")\" as \"(\".");
+  if (specification.hasTitle && specification.title.find(MainKeyword) != std::string::npos) {
+    hints.push_back("The title holds \"" + MainKeyword +
+                    "\", which is taken for the first term; write it otherwise.");
   }
   if (CountOf(formula, "\"") % 2 == 1) hints.push_back("A double quote of the formula has no partner.");
   const std::pair<const char*, const std::string*> ranges[] = {

@@ -5,6 +5,7 @@
 
 #include "Dialogs.h"
 #include "NumberPicture.h"
+#include "NumberText.h"
 #include "PlotData.h"
 #include "RunState.h"
 #include "TextHelpers.h"
@@ -109,7 +110,9 @@ void TakeLaterTerms(int extra, const PlotRanges& given, PlotRanges& ranges) {
 void SplitWideRange(PlotRanges& ranges) {
   RangeNumbers& main = ranges.rangeXYZ.numbers;
   const int extra = main.Ncol2 - (main.Ncol1 + 2);
-  if (extra <= 0) return;
+  // Numbers that no cell has, as "$" makes them, cannot be split: every text stays.
+  const bool isUsable = main.Ncol1 > 0 && main.num1 > 0;
+  if (extra <= 0 || !isUsable) return;
   const PlotRanges given = ranges;
   ranges.rangeXYZ.text = PartOfMainRange(main, 0, 2);
   ranges.rangeT.text = PartOfMainRange(main, 3, 3);
@@ -253,7 +256,7 @@ RangesFound NcolumnsUpdated(const SpecificationText& specification, const std::s
   }
   ClampAll(ranges);
   window.SetProgress(kBarAtRanges);
-  ranges.scaleText = FormatPicture(specification.scale, "#0.0000000000");
+  ranges.scaleText = WithDecimalMark(FormatPicture(specification.scale, "#0.0000000000"));
   return RangesFound::good;
 }
 

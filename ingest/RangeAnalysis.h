@@ -44,7 +44,8 @@ enum class RangesFound {
 ///
 /// Last rows and columns are clamped in the numbers only; a transfer of cells goes by the texts. Sets
 /// `ColumnMode`, `NbQuater` (1 when there are quaternions) and USERFLAG.TimeInData. When the main range is
-/// too narrow, `scaleText` stays empty and nothing is clamped.
+/// too narrow, `scaleText` stays empty and no last row or column is clamped but that of the main range, which
+/// is not below its first.
 ///
 /// @param cellFormula the formula that `specification` was read from.
 /// @param ranges out: all of it.

@@ -11,7 +11,10 @@ std::string NumberCell(double value) {
 }
 
 void ReportLines::Text(std::string_view name, std::string_view value) {
-  lines_.append(name).append("\t").append(value).append("\n");
+  lines_.append(name).append("\t");
+  for (const char c : value)
+    lines_ += c == '\t' || c == '\n' || c == '\r' ? ' ' : c;
+  lines_ += '\n';
 }
 
 void ReportLines::Number(std::string_view name, double value) {

@@ -151,8 +151,8 @@ TEST_F(CellRangeTest, ColumnsBehind256AreToldAndTaken) {
 TEST_F(CellRangeTest, AHundredCharactersAreReadAndOneMoreIsPassedOver) {
   const std::string hundred = "A" + std::string(95, '0') + "2:C9";
   ASSERT_EQ(hundred.size(), 100U);
-  EXPECT_EQ(ReadOtherForm(hundred), (RangeNumbers{1, 3, 0, 9}));
-  EXPECT_EQ(ReadOtherForm(hundred + std::string(50, ' ')), (RangeNumbers{1, 3, 0, 9}));
+  EXPECT_EQ(ReadOtherForm(hundred), (RangeNumbers{1, 3, 2, 9}));
+  EXPECT_EQ(ReadOtherForm(hundred + std::string(50, ' ')), (RangeNumbers{1, 3, 2, 9}));
   ExpectKept(hundred + "9");
   ExpectKept(std::string(100000, 'A'));
   ExpectKept("A" + std::string(100000, '2'));

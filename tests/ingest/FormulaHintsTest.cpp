@@ -29,8 +29,7 @@ TEST(FormulaHints, DollarsAreToldWithTheRangeToWrite) {
 TEST(FormulaHints, ATextThatIsNoRangeIsTold) {
   for (const char* range : {"A:C", "A02:C9", "AAA2:AAC9", "A0:C9", "2A:9C", "A2:C9:D9", "A2:"}) {
     EXPECT_THAT(HintsOf("=MAX(A2:C9)+MAX(" + std::string(range) + ")"),
-                ElementsAre("rangeT: \"" + std::string(range) +
-                            "\" is no range such as A2:C2000, with columns A to ZZ."));
+                ElementsAre("rangeT: \"" + std::string(range) + "\" is no range such as A2:C2000."));
   }
 }
 
@@ -47,6 +46,20 @@ TEST(FormulaHints, AFormulaWithoutItsSignIsTold) {
 TEST(FormulaHints, AQuoteWithoutAPartnerIsTold) {
   EXPECT_THAT(HintsOf("=LEN(\"Title)+MAX(A2:C9)"),
               ElementsAre("A double quote of the formula has no partner."));
+}
+
+TEST(FormulaHints, ABracketWithoutAPartnerIsTold) {
+  EXPECT_THAT(HintsOf("=MAX(A2:C9)+MAX(D2:D9"), ElementsAre("The formula has not as many \")\" as \"(\"."));
+}
+
+TEST(FormulaHints, TheKeywordInsideTheTitleIsTold) {
+  EXPECT_THAT(
+      HintsOf("=LEN(\"MAXI\")+MAX(A2:C9)"),
+      testing::Contains("The title holds \"MAX\", which is taken for the first term; write it otherwise."));
+}
+
+TEST(FormulaHints, ARangeThatEndsAboveItsStartIsTold) {
+  EXPECT_THAT(HintsOf("=MAX(A5:C2)"), ElementsAre("rangeXYZ: \"A5:C2\" ends above its first row."));
 }
 
 TEST(FormulaHints, TermsThatHaveNoMeaningAreTold) {

@@ -2,6 +2,7 @@
 
 #include "CommExcl.h"
 #include "DataFile.h"
+#include "Keywords.h"
 #include "LoadFixture.h"
 
 namespace quorb {
@@ -98,6 +99,34 @@ TEST_F(LoadPlotTest, AFormulaOfARangeAloneIsNoPlotToScale) {
   EXPECT_EQ(ISOmode, 0);
   EXPECT_EQ(FactorScale, 1);
   EXPECT_EQ(LastPoint, 1);
+}
+
+// Every word at once, each in the spelling that it is looked for: the later rows of each table win.
+TEST_F(LoadPlotTest, ATitleOfEveryKeywordLoads) {
+  std::string title = "All";
+  for (const std::string_view word : SearchedKeywords())
+    title += " " + std::string(word);
+  Load(Header(Formula("0.5 + ", title, 1)) + "1\t2\t3\r\n4\t5\t6\r\n");
+  EXPECT_EQ(ColumnMode, 1);
+  EXPECT_EQ(PenUpMode + PenUpLabelMode, 2);
+  EXPECT_EQ(FocusBody, 6) << "jupiter is last";
+  EXPECT_EQ(MoonFocus, 1);
+  EXPECT_EQ(EMSystem, 1);
+  EXPECT_EQ(USERFLAG.NedInput, 1.0);
+  EXPECT_EQ(QuaterScalarLast, 1);
+  EXPECT_EQ(LoadBusy, 0);
+  EXPECT_EQ(USERFLAG.SynchroExcelComplete, 1.0);
+}
+
+TEST_F(LoadPlotTest, AFormulaOf100000CharactersLoads) {
+  Load(Header(Formula("0.5 + ", std::string(100000, 'x'), 1)) + "1\t2\t3\r\n");
+  EXPECT_EQ(MessageUserToPlot.size(), 100000U);
+  std::string terms = "=0.5";
+  for (int term = 0; term < 9000; ++term)
+    terms += "+MAX(A2:C9)";
+  Load(Header(terms) + "1\t2\t3\r\n");
+  EXPECT_EQ(FactorScale, 0.5);
+  EXPECT_EQ(LastPoint, 0);
 }
 
 TEST_F(LoadPlotTest, RowsBehindTheBoundAreToldInTheLog) {

@@ -378,6 +378,14 @@ TEST_F(RangeAnalysisTest, DollarSignsPassWithoutAMessageAndWithoutUse) {
   EXPECT_EQ(ranges.rangeQuater.text, "$G$2");
 }
 
+TEST_F(RangeAnalysisTest, AWideRangeWithDollarSignsIsNotSplitAndTheOtherTermsStay) {
+  Analyse("=MAX($A$2:$Z$9)+MAX(D2:D9)");
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_EQ(ranges.rangeXYZ.text, "$A$2:$Z$9");
+  EXPECT_EQ(ranges.rangeT.text, "D2:D9");
+  EXPECT_EQ(ranges.rangeT.numbers, (RangeNumbers{4, 4, 2, 9}));
+}
+
 TEST_F(RangeAnalysisTest, RowZeroStaysAndEndsTheSearchAtOnce) {
   sheet.Fill(kColumnC, 1, 50);
   EXPECT_EQ(AnalyseTerms({"A0:C0"}), RangesFound::good);

@@ -13,9 +13,9 @@ struct TwoPoints {
   TwoNumbers x, y, z;
 };
 
-/// True when all six numbers are finite: the others are no 0 when they are taken from themselves.
+/// True when all six numbers are finite: no other gives 0 when it is multiplied by 0.
 inline bool AllFinite(const TwoPoints& points) {
-  const TwoNumbers nought = (points.x - points.x) + (points.y - points.y) + (points.z - points.z);
+  const TwoNumbers nought = points.x * 0.0 + points.y * 0.0 + points.z * 0.0;
   return nought[0] == 0 && nought[1] == 0;
 }
 

@@ -18,13 +18,12 @@
 #include "ClassGl.h"
 #include "OffscreenHost.h"
 #include "PlotData.h"
+#include "Ratio.h"
 #include "RunState.h"
 #include "UserFlag.h"
 
 namespace quorb {
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 constexpr int kRows = kRowBound;
 constexpr double kPlotRange = 60;
@@ -117,28 +116,6 @@ void DrawBare(const std::vector<float>& flat, bool cube, float face) {
     if (cube) BareShadows(&flat[at], face);
   }
   glEnd();
-}
-
-double SecondsOf(const std::function<void()>& work) {
-  const auto start = Clock::now();
-  work();
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-/// Runs both sides in turn and reports the ratio of their best times.
-void Compare(benchmark::State& state, const std::function<void()>& ours,
-             const std::function<void()>& bareOne) {
-  double own = std::numeric_limits<double>::infinity();
-  double bare = std::numeric_limits<double>::infinity();
-  while (state.KeepRunning()) {
-    bare = std::min(bare, SecondsOf(bareOne));
-    const double seconds = SecondsOf(ours);
-    own = std::min(own, seconds);
-    state.SetIterationTime(seconds);
-  }
-  state.counters["own_ms"] = own * 1e3;
-  state.counters["bare_ms"] = bare * 1e3;
-  state.counters["own_to_bare"] = own / bare;
 }
 
 /// The argument is 1 with the cube on.

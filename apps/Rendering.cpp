@@ -6,9 +6,11 @@
 #include <cstdint>
 
 #include "CommExcl.h"
+#include "Mth.h"
 #include "NamedFile.h"
 #include "OffscreenHost.h"
 #include "PlotData.h"
+#include "SatelliteControls.h"
 #include "UserFlag.h"
 #include "frmMain.h"
 
@@ -20,6 +22,10 @@ constexpr int kLargestSide = 16384;
 constexpr double kBrightest = 255;
 constexpr int kMostFrames = 1000000;
 constexpr double kUpwardAxis = 3;
+constexpr const char* kFromDirection = "from";
+constexpr double kSteepest = 90;
+constexpr double kLargestZoom = 1e6;
+constexpr float kDepth = 10000;
 
 template <typename Number>
 bool ReadNumber(std::string_view text, Number& number) {
@@ -66,17 +72,39 @@ int StepsOf(const std::string& mode) {
   return mode == "isonew" || mode == "proj" || mode == "iso" ? 8 : 0;
 }
 
+bool ReadDirection(std::string_view text, WantedView& view) {
+  const std::size_t comma = text.find(',');
+  return comma != text.npos && ReadNumber(text.substr(0, comma), view.azimuth) &&
+         ReadNumber(text.substr(comma + 1), view.elevation) && std::isfinite(view.azimuth) &&
+         std::abs(view.elevation) <= kSteepest;
+}
+
 bool ReadView(const std::string& text, WantedView& view) {
   const std::size_t colon = text.find(':');
   view.mode = text.substr(0, colon);
+  if (view.mode == kFromDirection && colon != std::string::npos)
+    return ReadDirection(std::string_view(text).substr(colon + 1), view);
   if (StepsOf(view.mode) == 0) return false;
   if (colon == std::string::npos) return true;
   return ReadNumber(std::string_view(text).substr(colon + 1), view.step) && view.step >= 0 &&
          view.step < StepsOf(view.mode);
 }
 
+void LookFrom(double azimuth, double elevation, HostCamera& camera) {
+  constexpr double kEye = 100;
+  const double a = DegToRad(azimuth);
+  const double e = DegToRad(elevation);
+  const auto along = [](double share) { return static_cast<float>(kEye * share); };
+  camera.Look(along(std::cos(e) * std::cos(a)), along(std::cos(e) * std::sin(a)), along(std::sin(e)), 0, 0, 0,
+              0, 0, 1);
+  camera.SetFar(kDepth);
+  camera.SetNear(-kDepth);
+  camera.SetProjection(1);
+}
+
 // The camera steps its walk with each call: it is set one step before the wanted one.
-void ApplyView(const WantedView& view) {
+void ApplyView(const WantedView& view, HostCamera& camera) {
+  if (view.mode == kFromDirection) return LookFrom(view.azimuth, view.elevation, camera);
   frmMain->Check9.Tag.clear();
   const int steps = std::max(StepsOf(view.mode), 1);
   const int before = (view.step + steps - 1) % steps;
@@ -85,12 +113,30 @@ void ApplyView(const WantedView& view) {
   TheScene->CameraSet(view.mode, kUpwardAxis, 1);
 }
 
+void MoveTo(const double* point, HostCamera& camera) {
+  float x = 0, y = 0, z = 0;
+  camera.GetPosition(x, y, z);
+  const auto dx = static_cast<float>(point[0]);
+  const auto dy = static_cast<float>(point[1]);
+  const auto dz = static_cast<float>(point[2]);
+  camera.SetPosition(x + dx, y + dy, z + dz);
+  camera.SetTarget(dx, dy, dz);
+}
+
+void PlaceCamera(const RenderCall& call, HostCamera& camera) {
+  if (call.view) ApplyView(*call.view, camera);
+  if (call.centre) MoveTo(dataXYZT[*call.centre] + 1, camera);
+  camera.Zoom(static_cast<float>(call.zoom));
+}
+
 void ApplySettings(const std::vector<OptionSetting>& settings) {
   for (const OptionSetting& setting : settings) {
     const std::vector<double*> numbers = FieldNumbers(USERFLAG, setting.field);
     for (std::size_t i = 0; i < numbers.size(); ++i)
       *numbers[i] = setting.numbers[i];
   }
+  int shapes = 0;
+  Combo2_InitList(shapes);
 }
 
 bool LoadInto(OffscreenHost& host, const RenderCall& call, std::string& error) {
@@ -110,7 +156,7 @@ bool WritePicture(const std::string& path, const PixelImage& image, std::string&
   return EndsWith(path, ".bmp") ? WriteBmp(path, image, error) : WritePng(path, image, error);
 }
 
-/// The axes, and with them the local frame, lag one frame.
+/// The axes, and with them the local frame, lag one frame; so do the light and the thrust.
 void DrawSettled(OffscreenHost& host) {
   host.Frame();
   host.Frame();
@@ -132,6 +178,33 @@ bool RenderSeries(OffscreenHost& host, const RenderCall& call, std::string& erro
     row += call.every;
   }
   return true;
+}
+
+bool HoldsRow(const std::optional<int>& row, std::string& error) {
+  if (!row || *row <= LastPoint) return true;
+  error = "the plot has no row " + std::to_string(*row) + ": its last one is " + std::to_string(LastPoint);
+  return false;
+}
+
+/// Takes the row that an option names, if it is given.
+bool ReadRow(const CommandLine& line, std::string_view option, std::optional<int>& row, std::string& error) {
+  const auto text = line.Value(option);
+  if (!text) return true;
+  int number = 0;
+  if (!ReadNumber(*text, number) || number < 0) {
+    error = "the row '" + *text + "' is no whole number from 0 on";
+    return false;
+  }
+  row = number;
+  return true;
+}
+
+bool ReadZoom(const CommandLine& line, RenderCall& call, std::string& error) {
+  const auto text = line.Value("--zoom");
+  if (!text || (ReadNumber(*text, call.zoom) && call.zoom >= 1 / kLargestZoom && call.zoom <= kLargestZoom))
+    return true;
+  error = "the zoom '" + *text + "' is no number from 0.000001 to 1000000";
+  return false;
 }
 
 bool ReadSeries(const CommandLine& line, RenderCall& call, std::string& error) {
@@ -175,19 +248,16 @@ bool ReadRenderCall(const CommandLine& line, RenderCall& call, std::string& erro
     error = "the size '" + *size + "' is not of the form WIDTHxHEIGHT, from 1x1 to 16384x16384";
     return false;
   }
-  if (const auto row = line.Value("--row")) {
-    int number = 0;
-    if (!ReadNumber(*row, number) || number < 0) {
-      error = "the row '" + *row + "' is no whole number from 0 on";
-      return false;
-    }
-    call.row = number;
+  if (!ReadRow(line, "--row", call.row, error) || !ReadRow(line, "--centre", call.centre, error) ||
+      !ReadZoom(line, call, error)) {
+    return false;
   }
   if (const auto view = line.Value("--view")) {
     call.view.emplace();
     if (!ReadView(*view, *call.view)) {
       error = "the view '" + *view +
-              "' is not isonew, isonewplus, proj or iso, with the number of a step behind it (:0 on) or none";
+              "' is not isonew, isonewplus, proj or iso, with the number of a step behind it (:0 on) or "
+              "none, nor from:AZIMUTH,ELEVATION with an elevation from -90 to 90";
       return false;
     }
   }
@@ -211,15 +281,11 @@ std::string FrameName(const std::string& picture, int number) {
 bool Render(const RenderCall& call, std::string& error) {
   const auto host = OffscreenHost::Create(call.width, call.height, error);
   if (host == nullptr || !LoadInto(*host, call, error)) return false;
-  if (call.row && *call.row > LastPoint) {
-    error =
-        "the plot has no row " + std::to_string(*call.row) + ": its last one is " + std::to_string(LastPoint);
-    return false;
-  }
+  if (!HoldsRow(call.row, error) || !HoldsRow(call.centre, error)) return false;
   ApplySettings(call.settings);
   // The first frame digests the plot.
   host->Frame();
-  if (call.view) ApplyView(*call.view);
+  PlaceCamera(call, host->Camera());
   return call.frames ? RenderSeries(*host, call, error) : RenderOne(*host, call, error);
 }
 

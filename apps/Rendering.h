@@ -15,10 +15,13 @@ struct OptionSetting {
   std::vector<double> numbers;  ///< one, or three for a colour
 };
 
-/// A standard view: the word that the camera takes, and the step of its walk.
+/// A view: a standard one by the word that the camera takes and the step of its walk, or with the word "from"
+/// the one from a direction, with Z upward.
 struct WantedView {
   std::string mode;
   int step = 0;
+  /// Degrees: from X toward Y, and from the plane of X and Y toward Z.
+  double azimuth = 0, elevation = 0;
 };
 
 /// A picture that is asked for.
@@ -30,6 +33,9 @@ struct RenderCall {
   /// Last row that is drawn; when empty the plot's last one, in the first picture of a series its first one.
   std::optional<int> row;
   std::optional<WantedView> view;  ///< the view of a fresh plot when empty
+  double zoom = 1;                 ///< how many times larger everything is shown
+  /// The row whose point stands in the middle; when empty the middle of the axes does.
+  std::optional<int> centre;
   std::vector<OptionSetting> settings;
   std::optional<int> frames;  ///< number of pictures of a series; a single picture when empty
   int every = 0;              ///< rows from one picture of a series to the next

@@ -18,7 +18,8 @@ namespace {
 
 constexpr std::string_view kHelp =
     R"(Usage: quorb-render FILE -o OUT.png|OUT.bmp [--size WxH] [--row N] [--view VIEW]
-                   [--set FIELD=VALUE]... [--frames N --every ROWS]
+                   [--zoom FACTOR] [--centre ROW] [--set FIELD=VALUE]...
+                   [--frames N --every ROWS]
 
 Draws the picture that the viewer shows of a data file, without a window.
 
@@ -28,7 +29,11 @@ Draws the picture that the viewer shows of a data file, without a window.
   --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;
                      isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the
                      eight projections, 0 to 7; iso the plain isometric view
-                     (STEP is 0 when left out; without --view from above Z)
+                     (STEP is 0 when left out; without --view from above Z);
+                     from:AZIMUTH,ELEVATION with Z upward, from a direction in
+                     degrees, of X toward Y and then toward Z
+  --zoom FACTOR      shows everything this many times larger (default 1)
+  --centre ROW       puts the point of this row, from 0, into the middle
   --set FIELD=VALUE  sets an option of the record USERFLAG, such as
                      ThicknessLinePlot=3 or ColourBackground=255,255,255
   --frames N         a series of N pictures, OUT1.png, OUT2.png and so on, from
@@ -42,8 +47,8 @@ Exit status: 0 done, 1 the file gave no rows or the picture could not be drawn o
 written, 2 wrong call.
 )";
 
-const std::vector<std::string_view> kOptions = {"-o",    "--size",   "--row",  "--view",
-                                                "--set", "--frames", "--every"};
+const std::vector<std::string_view> kOptions = {"-o",       "--size", "--row",    "--view", "--zoom",
+                                                "--centre", "--set",  "--frames", "--every"};
 
 /// One line on a terminal, written over by the next picture's.
 void ShowProgress(RenderCall& call) {

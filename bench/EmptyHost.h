@@ -20,6 +20,7 @@ class EmptyHost : public glCtl {
   HostLight& Lights(int /*number*/) override { return light_; }
   HostMaterial& Materials(int /*number*/) override { return material_; }
   HostMaterial& NewMaterial() override { return material_; }
+  HostTexture& NewTexture() override { return texture_; }
   HostText& Text() override { return text_; }
   HostAnimation& Animation() override { return animation_; }
   void ReturnList(unsigned /*list*/) override {}
@@ -80,6 +81,13 @@ class EmptyHost : public glCtl {
     void SetSpecExp(float /*exponent*/) override {}
   };
 
+  class EmptyTexture : public HostTexture {
+   public:
+    bool Load(const std::string& /*path*/, std::string& /*error*/) override { return false; }
+    bool HasPicture() const override { return false; }
+    void Bind() override {}
+  };
+
   class EmptyText : public HostText {
    public:
     void NewOutlineFont(int /*deviceHandle*/, int& /*handle*/, const std::string& /*face*/, bool /*bold*/,
@@ -102,6 +110,7 @@ class EmptyHost : public glCtl {
   EmptyCamera camera_;
   EmptyLight light_;
   EmptyMaterial material_;
+  EmptyTexture texture_;
   EmptyText text_;
   EmptyAnimation animation_;
 };

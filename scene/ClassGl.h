@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include "Interaction.h"
 #include "PlotData.h"
 #include "PlotExtent.h"
+#include "SceneBodies.h"
 #include "Trajectory.h"
 #include "glCtl.h"
 
@@ -186,6 +188,8 @@ class ClassGl : public PlotExtent {
 
   /// The host control that the scene draws on.
   glCtl& Host;
+  /// What the frames show besides the plot; null for the plot alone.
+  std::unique_ptr<SceneBodies> BodiesShown;
 
   int HostDC = 0;
   /// Size of the view in pixels.
@@ -243,6 +247,10 @@ class ClassGl : public PlotExtent {
   void SetPlotWidths();
   void DrawAxes();
   void DrawBrokenLine();
+  bool BodiesAreToScale() const;
+  void DrawRayToSun();
+  void DrawShownSatellite();
+  void DrawLitBodies();
   void DrawScaleLegend();
 
   bool IsPassedTick();

@@ -9,6 +9,7 @@
 #include "SceneColour.h"
 #include "UserFlag.h"
 #include "ValueBars.h"
+#include "WholeNumber.h"
 
 namespace quorb {
 
@@ -35,6 +36,13 @@ void ForceBrandedLook() {
   USERFLAG.ColourAxis = {128, 0, 128};
   USERFLAG.ColourAxisLabels = {40, 0, 255};
   USERFLAG.LengthAxisFactor = 0.0002;
+}
+
+bool SatelliteIsShown() {
+  if (NbQuater != 0 && PenUpMode != 1 && USERFLAG.ShowSatellite == 1.0) return true;
+  std::int32_t shown = 0;
+  AssignRounded(shown, USERFLAG.ShowSatellite);
+  return USERFLAG.NedInput != 1.0 && shown != 0;
 }
 
 GLfloat DrawnWidth(double thickness) {
@@ -91,6 +99,9 @@ void ClassGl::SetPlotWidths() {
 
 void ClassGl::DrawBrokenLine() {
   Trajectory.CubeFaceX = Trajectory.CubeFaceY = Trajectory.CubeFaceZ = -AxisLength();
+  if (BodiesShown != nullptr) BodiesShown->Start();
+  DrawRayToSun();
+  DrawShownSatellite();
   SetClearColour(USERFLAG.ColourBackground);
   glClearDepth(1);
   glShadeModel(GL_SMOOTH);
@@ -100,9 +111,41 @@ void ClassGl::DrawBrokenLine() {
   DrawValueText(Trajectory.Bars, Host);
   DrawMovingLogo(*this);
   DrawOriginText(*this);
+  DrawLitBodies();
   if (dataXYZT.Holds(CURRINDEXI)) USERFLAG.MovieDataTime = dataXYZT[CURRINDEXI][0];
   DrawTimeText(*this);
   DrawScaleLegend();
+}
+
+bool ClassGl::BodiesAreToScale() const {
+  return BodiesShown != nullptr && USERFLAG.NoPlotEarth == 0 && ISOmode == 1;
+}
+
+void ClassGl::DrawRayToSun() {
+  if (!BodiesAreToScale()) return;
+  glPushMatrix();
+  BodiesShown->DrawSunRay();
+  glPopMatrix();
+}
+
+void ClassGl::DrawShownSatellite() {
+  if (BodiesShown == nullptr || !SatelliteIsShown()) return;
+  glPushMatrix();
+  BodiesShown->DrawSatellite();
+  glPopMatrix();
+}
+
+void ClassGl::DrawLitBodies() {
+  if (BodiesShown == nullptr) return;
+  BodiesShown->SunAndLight();
+  if (!BodiesAreToScale()) return;
+  glPushMatrix();
+  BodiesShown->DrawCentralBody();
+  glPopMatrix();
+  if (MoonFocus != 0) return;
+  glPushMatrix();
+  BodiesShown->DrawMoon();
+  glPopMatrix();
 }
 
 }  // namespace quorb

@@ -44,6 +44,7 @@ FrameKey PresentKey(const ClassGl& scene) {
   numbers.insert(numbers.end(), {scene.Range, scene.Grids() ? 1.0 : 0.0});
   AddPlot(numbers);
   AddCamera(numbers, scene.Host.Camera());
+  if (scene.BodiesShown != nullptr) scene.BodiesShown->AddToKey(numbers);
   return key;
 }
 

@@ -107,6 +107,21 @@ class HostAnimation {
   virtual void Update() = 0;
 };
 
+/// A picture that OpenGL lays over a surface.
+class HostTexture {
+ public:
+  virtual ~HostTexture() = default;
+
+  /// Takes the picture of a JPEG file in place of the one before; the context has to be current. False when
+  /// there is none to be had, with `error` a sentence for the log; the texture then has no picture.
+  virtual bool Load(const std::string& path, std::string& error) = 0;
+  virtual bool HasPicture() const = 0;
+
+  /// Makes the texture current: what is lit and drawn behind it shows the picture in the picture's own
+  /// colours, or, when there is none, the drawing colour.
+  virtual void Bind() = 0;
+};
+
 /// The OpenGL host control: it owns the context, clears the colour buffer and sets the matrices before the
 /// draw event, calls the overlay event behind it, and shows the frame.
 class glCtl {
@@ -176,6 +191,9 @@ class glCtl {
   /// Size of the view in pixels.
   virtual int Width() const = 0;
   virtual int Height() const = 0;
+
+  /// A texture of the caller's own, without a picture, that lives as long as the host.
+  virtual HostTexture& NewTexture() = 0;
 };
 
 }  // namespace quorb

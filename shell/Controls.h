@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "WholeNumber.h"
 
@@ -147,6 +148,7 @@ class ScrollBar : public Control {
 /// An editable list.
 class ComboBox : public Control {
  public:
+  Shown<std::vector<std::string>> items{*this, {}};
   ControlValue<std::string> text{*this, ""};
 };
 

@@ -5,6 +5,7 @@
 #include "NumberText.h"
 #include "OptionPanel.h"
 #include "PlotControls.h"
+#include "SatelliteControls.h"
 #include "frmMain.h"
 
 namespace quorb {
@@ -28,6 +29,13 @@ void DesignPanel(MainWindow& window) {
   window.Check6.caption = "Sat. Axis";
   window.Check6.value.Design(1);
   window.Check6.visible = false;
+  window.Check6.toolTip = "Shows the local satellite axis Xsat Red,  Ysat  Green and  Zsat Blue";
+  window.Check8.caption = "thrusters";
+  window.Check8.toolTip = "Thrusters location x y z (n times)  and orientation x y z  (n times)";
+  window.Combo2.text.Design("GEO satcom");
+  window.Combo2.toolTip = "Select the shape of Satellite or Launcher with the number of solar arrays, etc.";
+  window.Text13.visible = false;
+  window.Text15.text.Design("km");
   window.Check9.caption = "Cubic View";
   window.Check9.Tag = "REAL_ISO";
   window.Check10.caption = "m";
@@ -150,7 +158,10 @@ void TieControls(MainWindow& window) {
   }
   window.Check3.value.changed = Check3_Click;
   window.Check4.value.changed = Check4_Click;
+  window.Check6.value.changed = Check6_Click;
+  window.Check8.value.changed = Check8_Click;
   window.Check9.value.changed = Check9_Click;
+  window.Combo2.text.changed = Combo2_Click;
   window.Check10.value.changed = Check10_Click;
   window.HScroll1.value.changed = HScroll1_Change;
   window.HScroll2.value.changed = HScroll2_Change;

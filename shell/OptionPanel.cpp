@@ -4,12 +4,14 @@
 #include <cmath>
 #include <string>
 
+#include "BodyTextures.h"
 #include "Desktop.h"
 #include "Mth.h"
 #include "NumberPicture.h"
 #include "NumberText.h"
 #include "PlotData.h"
 #include "RunState.h"
+#include "SatelliteControls.h"
 #include "Settings.h"
 #include "SettingsStore.h"
 #include "UserFlag.h"
@@ -85,6 +87,7 @@ void Check3_Click() {
   USERFLAG.ShowSatellite = value;
   StoreSingle(4, std::to_string(value));
   ShowSatelliteControls(value == 1);
+  Check6_Click();
   if (value == 1 && FactorScale != 0) AssignNumber(frmMain->HScroll3.value, FittingSatelliteSize());
 }
 
@@ -129,10 +132,12 @@ void Text6_Change() {
 }
 
 void Text7_Change() {
+  EarthTextureName = frmMain->Text7.text;
   StoreSingle(0, frmMain->Text7.text);
 }
 
 void Text8_Change() {
+  MoonTextureName = frmMain->Text8.text;
   StoreSingle(1, frmMain->Text8.text);
 }
 
@@ -186,6 +191,8 @@ void Command3_Click() {
   USERFLAG = USERFLAGfactory;
   OptionsPack(1);
   OptionAffecteUser();
+  int shapes = 0;
+  Combo2_InitList(shapes);
   frmMain->Text6.text = "";
   frmMain->Text9.text = "MAX";
 }

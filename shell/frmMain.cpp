@@ -3,15 +3,19 @@
 #include <cmath>
 #include <limits>
 
+#include "Bodies.h"
+#include "BodyTextures.h"
 #include "CommExcl.h"
 #include "Desktop.h"
 #include "Dialogs.h"
+#include "LoaderLink.h"
 #include "NumberPicture.h"
 #include "NumberText.h"
 #include "OptionPanel.h"
 #include "PlotControls.h"
 #include "PlotData.h"
 #include "RunState.h"
+#include "SatelliteControls.h"
 #include "Settings.h"
 #include "SettingsStore.h"
 #include "TextHelpers.h"
@@ -80,6 +84,7 @@ void ReadSingleSettings() {
   window.Text6.text = StoredUse("SetDirBMP", "");
   window.Text7.text = StoredUse(SingleSettingKey(0), "earthjpg.jpg");
   window.Text8.text = StoredUse(SingleSettingKey(1), "moonjpg.jpg");
+  MoonTextureName = window.Text8.text;
   window.Text9.text = StoredUse(SingleSettingKey(2), "MAX");
   AssignNumber(window.HScroll3.value, ValText(StoredUse(SingleSettingKey(3), "64")));
   AssignNumber(window.Check3.value, ValText(StoredUse(SingleSettingKey(4), "0")));
@@ -130,11 +135,22 @@ void LoadOptions() {
   Text7_Change();
   if (noneStored == 0) OptionAffecteUser();
   ConfirmInteractive();
+  int shapes = 0;
+  Combo2_InitList(shapes);
+}
+
+void MakeBodies() {
+  TextureDirectory = CurrentDesktop().ProgramDirectory();
+  TextureLog = [](const std::string& line) { LoaderLinkOfWindow().AppendLog(line); };
+  auto bodies = std::make_unique<Bodies>(*TheScene);
+  bodies->ShowText15 = [](bool on) { frmMain->Text15.visible = on; };
+  TheScene->BodiesShown = std::move(bodies);
 }
 
 void StartScene(glCtl& host) {
   glxCtl1 = &host;
   TheScene = std::make_unique<ClassGl>(host);
+  MakeBodies();
   HScroll1_Change();
   HScroll2_Change();
   TheScene->EditState(static_cast<int>(MouseMode::pan));
@@ -174,6 +190,8 @@ void Form_Activate() {
     FirstActivated = 1;
   }
   window.Command6.Tag.clear();
+  int shapes = 0;
+  Combo2_InitList(shapes);
   window.Combo1.Width = 390;
   if (USERFLAG.TimeInData == 0) {
     window.Check3.value = 0;

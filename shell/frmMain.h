@@ -39,10 +39,10 @@ struct MainWindow {
   // Option panel.
   Control Options;
   std::array<CheckBox, 11> Check1;
-  CheckBox Check3, Check4, Check5, Check6, Check9, Check10, Check11;
+  CheckBox Check3, Check4, Check5, Check6, Check8, Check9, Check10, Check11;
   std::array<TextBox, 5> Text4;
   std::array<TextBox, 18> Text5;
-  TextBox Text6, Text7, Text8, Text9;
+  TextBox Text6, Text7, Text8, Text9, Text13, Text15;
   ScrollBar HScroll3;
   std::array<Label, 13> Label1;
   Button Command1, Command2, Command3;

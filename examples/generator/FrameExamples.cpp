@@ -26,6 +26,8 @@ constexpr double kClimbTurn = 0.35;    // radians of the Earth below the climb
 constexpr double kFlightTurn = 1.5;    // radians of the Earth below the whole flight
 constexpr double kOrbitHeight = 1200;  // km
 constexpr double kClimbSeconds = 900;
+/// 2025-12-01 13:27: the Earth of that hour has the launch site below the first row.
+constexpr double kLaunchDay = 45992.56042;
 
 /// Height over the ground behind so much of the Earth: up at once, level at the end.
 double HeightAt(double angle) {
@@ -98,7 +100,7 @@ ExampleTable NedExample() {
     const double outward = radius * std::sin(angle);
     const double down = kEarthRadius - radius * std::cos(angle);
     AddRow(table, kMetres * Vec3{outward * std::sin(kAzimuth), outward * std::cos(kAzimuth), down},
-           kStartDay * kSecondsPerDay + SecondsAt(angle));
+           kLaunchDay * kSecondsPerDay + SecondsAt(angle));
   }
   return table;
 }

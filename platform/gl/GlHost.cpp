@@ -121,6 +121,9 @@ void GlHost::SetLights() const {
 
 void GlHost::SetSwitches() const {
   SetSwitch(GL_DEPTH_TEST, depthTest);
+  SetSwitch(GL_LIGHTING, false);
+  SetSwitch(GL_TEXTURE_2D, false);
+  SetSwitch(GL_COLOR_MATERIAL, false);
   // A line of many short pieces has gaps where its pieces miss the samples; without them it has none.
   SetSwitch(GL_MULTISAMPLE, false);
 
@@ -143,6 +146,8 @@ void GlHost::ReleaseContext() {
   for (const unsigned list : returnedLists)
     glDeleteLists(list, 1);
   returnedLists.clear();
+  for (GlTexture& texture : textures)
+    texture.Release();
   fonts.Release();
 }
 

@@ -9,6 +9,7 @@
 #include "AnimationValues.h"
 #include "CameraValues.h"
 #include "GlMaterial.h"
+#include "GlTexture.h"
 #include "LightValues.h"
 #include "OverlayTexts.h"
 #include "TextFonts.h"
@@ -43,6 +44,7 @@ class GlHost : public glCtl {
   /// A number outside 1 to 16 gives the nearest of these.
   HostMaterial& Materials(int number) override;
   HostMaterial& NewMaterial() override { return ownMaterials.emplace_back(); }
+  HostTexture& NewTexture() override { return textures.emplace_back(); }
   HostText& Text() override { return fonts; }
   HostAnimation& Animation() override { return animation; }
   void ReturnList(unsigned list) override;
@@ -65,8 +67,8 @@ class GlHost : public glCtl {
   /// Device pixels to a pixel at 96 to the inch; to be set before the context is ready.
   void SetPixelRatio(double ratio);
 
-  /// Clears the view of width x height device pixels and sets projection, view, lights and switches. The
-  /// matrix mode is left at the model view.
+  /// Clears the view of width x height device pixels and sets projection, view, lights and switches. Lighting
+  /// and textures are off, whatever the frame before left. The matrix mode is left at the model view.
   void BeginFrame(int width, int height);
 
   /// Draws the texts that wait. Behind it the OpenGL state is what the draw and overlay events left.
@@ -98,6 +100,7 @@ class GlHost : public glCtl {
   LightValues lightOfNoNumber;
   std::array<GlMaterial, kMaterialCount> materials;
   std::deque<GlMaterial> ownMaterials;
+  std::deque<GlTexture> textures;
   AnimationValues animation;
   TextFonts fonts;
   OverlayTexts overlayTexts;

@@ -19,11 +19,12 @@ class QuorbRender : public testing::Test {
  protected:
   ProgramOutcome Run(const std::string& arguments) const { return run_.Run(QUORB_RENDER_PROGRAM, arguments); }
 
-  // Draws the file's text and compares the picture with the stored one of this name.
+  // Draws the file's text without the Earth, which would be far larger than the small plots here, and
+  // compares the picture with the stored one of this name.
   void ExpectPicture(const std::string& name, const std::string& text,
                      const std::string& arguments = "") const {
     run_.Write("plot.qbv", text);
-    const ProgramOutcome outcome = Run("plot.qbv -o out.png --size 640x400 " + arguments);
+    const ProgramOutcome outcome = Run("plot.qbv -o out.png --size 640x400 --set NoPlotEarth=1 " + arguments);
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     PixelImage image;
     std::string error;
@@ -47,7 +48,8 @@ std::string Spiral(const std::string& formula, const std::string& tail = "") {
 TEST_F(QuorbRender, HelpAndVersionAreAnsweredBeforeAnythingElse) {
   EXPECT_EQ(Run("--help").out,
             "Usage: quorb-render FILE -o OUT.png|OUT.bmp [--size WxH] [--row N] [--view VIEW]\n"
-            "                   [--set FIELD=VALUE]... [--frames N --every ROWS]\n"
+            "                   [--zoom FACTOR] [--centre ROW] [--set FIELD=VALUE]...\n"
+            "                   [--frames N --every ROWS]\n"
             "\n"
             "Draws the picture that the viewer shows of a data file, without a window.\n"
             "\n"
@@ -57,7 +59,11 @@ TEST_F(QuorbRender, HelpAndVersionAreAnsweredBeforeAnythingElse) {
             "  --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;\n"
             "                     isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the\n"
             "                     eight projections, 0 to 7; iso the plain isometric view\n"
-            "                     (STEP is 0 when left out; without --view from above Z)\n"
+            "                     (STEP is 0 when left out; without --view from above Z);\n"
+            "                     from:AZIMUTH,ELEVATION with Z upward, from a direction in\n"
+            "                     degrees, of X toward Y and then toward Z\n"
+            "  --zoom FACTOR      shows everything this many times larger (default 1)\n"
+            "  --centre ROW       puts the point of this row, from 0, into the middle\n"
             "  --set FIELD=VALUE  sets an option of the record USERFLAG, such as\n"
             "                     ThicknessLinePlot=3 or ColourBackground=255,255,255\n"
             "  --frames N         a series of N pictures, OUT1.png, OUT2.png and so on, from\n"
@@ -137,6 +143,14 @@ TEST_F(QuorbRender, EachFamilyOfViewsHasItsPicture) {
 TEST_F(QuorbRender, TheCubeHasThreeWallsAndAShadowOnEach) {
   ExpectPicture("cube", Coil(kCoilFormula),
                 "--view isonew:1 --set CubicView=1 --set LengthAxisFactor=0.9 --set ThicknessLinePlot=2");
+}
+
+TEST_F(QuorbRender, AViewFromADirectionIsTheStandardOneOfThatDirection) {
+  ExpectPicture("view-isonew-3", Coil(kCoilFormula), "--set LengthAxisFactor=1.2 --view from:135,45");
+}
+
+TEST_F(QuorbRender, APointInTheMiddleIsSeenThereAndLarger) {
+  ExpectPicture("zoom", Coil(kCoilFormula), "--view from:20,30 --centre 0 --zoom 4");
 }
 
 TEST_F(QuorbRender, LargeCharactersAreLarger) {
@@ -222,6 +236,13 @@ TEST_F(QuorbRender, ARowBehindTheLastIsRefused) {
   EXPECT_EQ(outcome.err, "quorb-render: the plot has no row 9: its last one is 8\n");
 }
 
+TEST_F(QuorbRender, AMiddleBehindTheLastRowIsRefused) {
+  run_.Write("plot.qbv", Spiral("=0.5+MAX(A2:C10)"));
+  const ProgramOutcome outcome = Run("plot.qbv -o out.png --centre 9");
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.err, "quorb-render: the plot has no row 9: its last one is 8\n");
+}
+
 TEST_F(QuorbRender, APictureThatCannotBeWrittenIsTold) {
   run_.Write("plot.qbv", Spiral("=0.5+MAX(A2:C10)"));
   const ProgramOutcome outcome = Run("plot.qbv -o nowhere/out.png --size 64x64");
@@ -231,15 +252,35 @@ TEST_F(QuorbRender, APictureThatCannotBeWrittenIsTold) {
 
 TEST_F(QuorbRender, WrongCallsGiveStatusTwo) {
   run_.Write("plot.qbv", Spiral("=0.5+MAX(A2:C10)"));
-  for (const char* arguments :
-       {"", "plot.qbv", "plot.qbv -o out.jpg", "plot.qbv -o out.png --size 10",
-        "plot.qbv -o out.png --size 0x10", "plot.qbv -o out.png --size 20000x10",
-        "plot.qbv -o out.png --row -1", "plot.qbv -o out.png --row x", "plot.qbv -o out.png --set Nothing=1",
-        "plot.qbv -o out.png --set ColourAxis=1", "plot.qbv -o out.png --set CubicView=",
-        "plot.qbv -o out.png --view top", "plot.qbv -o out.png --view proj:8",
-        "plot.qbv -o out.png --view isonewplus:6", "plot.qbv -o out.png --frames 2",
-        "plot.qbv -o out.png --every 2", "plot.qbv -o out.png --frames 0 --every 2",
-        "plot.qbv -o out.png --frames 2 --every 0", "plot.qbv -o out.png --frames x --every 1"}) {
+  for (const char* arguments : {"",
+                                "plot.qbv",
+                                "plot.qbv -o out.jpg",
+                                "plot.qbv -o out.png --size 10",
+                                "plot.qbv -o out.png --size 0x10",
+                                "plot.qbv -o out.png --size 20000x10",
+                                "plot.qbv -o out.png --row -1",
+                                "plot.qbv -o out.png --row x",
+                                "plot.qbv -o out.png --set Nothing=1",
+                                "plot.qbv -o out.png --set ColourAxis=1",
+                                "plot.qbv -o out.png --set CubicView=",
+                                "plot.qbv -o out.png --view top",
+                                "plot.qbv -o out.png --view proj:8",
+                                "plot.qbv -o out.png --view isonewplus:6",
+                                "plot.qbv -o out.png --frames 2",
+                                "plot.qbv -o out.png --every 2",
+                                "plot.qbv -o out.png --frames 0 --every 2",
+                                "plot.qbv -o out.png --view from",
+                                "plot.qbv -o out.png --view from:10",
+                                "plot.qbv -o out.png --view from:10,91",
+                                "plot.qbv -o out.png --view from:x,0",
+                                "plot.qbv -o out.png --zoom 0",
+                                "plot.qbv -o out.png --zoom -1",
+                                "plot.qbv -o out.png --zoom 1e7",
+                                "plot.qbv -o out.png --zoom x",
+                                "plot.qbv -o out.png --centre -1",
+                                "plot.qbv -o out.png --centre x",
+                                "plot.qbv -o out.png --frames 2 --every 0",
+                                "plot.qbv -o out.png --frames x --every 1"}) {
     const ProgramOutcome outcome = Run(arguments);
     EXPECT_EQ(outcome.status, 2) << arguments;
     EXPECT_THAT(outcome.err, HasSubstr("(see quorb-render --help)")) << arguments;

@@ -48,8 +48,8 @@ class WholeStartTest : public WindowFixture {
     events.Draw();
     std::vector<std::string> vertices;
     const auto& calls = RecordedCalls();
-    for (auto call = std::find(calls.begin(), calls.end(), "glNewList(0, GL_COMPILE)"); call != calls.end();
-         ++call) {
+    const auto list = std::find(calls.begin(), calls.end(), "glDeleteLists(0, 1)");
+    for (auto call = list; call != std::find(list, calls.end(), "glEndList()"); ++call) {
       if (call->starts_with("glVertex3f")) vertices.push_back(*call);
     }
     return vertices;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <map>
 #include <string>
 
@@ -116,6 +117,24 @@ class RecordingHost : public glCtl {
     std::string name;
   };
 
+  /// A texture is named by the order of its making: "Texture(1)". A path that ends with `missingFile` does
+  /// not load.
+  class RecordingTexture : public HostTexture {
+   public:
+    bool Load(const std::string& path, std::string& error) override {
+      RecordCallOf(name + ".Load", path);
+      hasPicture = missingFile.empty() || !path.ends_with(missingFile);
+      if (!hasPicture) error = "No file " + path;
+      return hasPicture;
+    }
+    bool HasPicture() const override { return hasPicture; }
+    void Bind() override { RecordCallOf(name + ".Bind"); }
+
+    std::string name;
+    std::string missingFile;
+    bool hasPicture = false;
+  };
+
   /// Fonts get the handles 1, 2, 3 in the order of their making.
   class RecordingText : public HostText {
    public:
@@ -177,6 +196,13 @@ class RecordingHost : public glCtl {
     ownMaterial.name = "Material";
     return ownMaterial;
   }
+  RecordingTexture& NewTexture() override {
+    RecordCallOf("NewTexture");
+    RecordingTexture& texture = textures.emplace_back();
+    texture.name = "Texture(" + std::to_string(textures.size()) + ")";
+    texture.missingFile = missingFile;
+    return texture;
+  }
   RecordingText& Text() override { return text; }
   RecordingAnimation& Animation() override { return animation; }
   void ReturnList(unsigned list) override { RecordCallOf("ReturnList", list); }
@@ -212,6 +238,9 @@ class RecordingHost : public glCtl {
   std::map<int, RecordingLight> lights;
   std::map<int, RecordingMaterial> materials;
   RecordingMaterial ownMaterial;
+  std::deque<RecordingTexture> textures;
+  /// Given to the textures made from here on.
+  std::string missingFile;
   RecordingText text;
   RecordingAnimation animation;
 };

@@ -50,15 +50,17 @@ Constant Symbol(GLenum value) {
                        {GL_BACK, "GL_BACK"},
                        {GL_FRONT_AND_BACK, "GL_FRONT_AND_BACK"},
                        {GL_LIGHTING, "GL_LIGHTING"},
-                       {GL_LIGHT0, "GL_LIGHT0"},
                        {GL_COLOR_MATERIAL, "GL_COLOR_MATERIAL"},
                        {GL_BLEND, "GL_BLEND"},
                        {GL_CULL_FACE, "GL_CULL_FACE"},
                        {GL_DEPTH_TEST, "GL_DEPTH_TEST"},
+                       {GL_POLYGON_OFFSET_FILL, "GL_POLYGON_OFFSET_FILL"},
                        {GL_TEXTURE_2D, "GL_TEXTURE_2D"},
                        {GL_MAP1_VERTEX_3, "GL_MAP1_VERTEX_3"},
                        {GL_FLAT, "GL_FLAT"},
                        {GL_SMOOTH, "GL_SMOOTH"},
+                       {GL_SPECULAR, "GL_SPECULAR"},
+                       {GL_POSITION, "GL_POSITION"},
                        {GL_AMBIENT, "GL_AMBIENT"},
                        {GL_DIFFUSE, "GL_DIFFUSE"},
                        {GL_AMBIENT_AND_DIFFUSE, "GL_AMBIENT_AND_DIFFUSE"},
@@ -79,6 +81,11 @@ Constant Symbol(GLenum value) {
                        {GL_BGRA, "GL_BGRA"},
                        {GL_UNSIGNED_BYTE, "GL_UNSIGNED_BYTE"},
                        {GLU_ERROR, "GLU_ERROR"}});
+}
+
+/// What glEnable switches. The first light has the number of another constant.
+Constant Capability(GLenum value) {
+  return value == GL_LIGHT0 ? Constant{"GL_LIGHT0"} : Symbol(value);
 }
 
 GLuint nextList = 1;
@@ -179,13 +186,22 @@ void glClearDepth(GLclampd depth) {
   RecordCallOf("glClearDepth", depth);
 }
 void glEnable(GLenum cap) {
-  RecordCallOf("glEnable", Symbol(cap));
+  RecordCallOf("glEnable", Capability(cap));
 }
 void glDisable(GLenum cap) {
-  RecordCallOf("glDisable", Symbol(cap));
+  RecordCallOf("glDisable", Capability(cap));
+}
+void glPolygonOffset(GLfloat factor, GLfloat units) {
+  RecordCallOf("glPolygonOffset", factor, units);
 }
 void glShadeModel(GLenum mode) {
   RecordCallOf("glShadeModel", Symbol(mode));
+}
+void glLoadIdentity() {
+  RecordCallOf("glLoadIdentity");
+}
+void glLightfv(GLenum light, GLenum pname, const GLfloat* params) {
+  RecordCallOf("glLightfv", Capability(light), Symbol(pname), params[0], params[1], params[2], params[3]);
 }
 void glColorMaterial(GLenum face, GLenum mode) {
   RecordCallOf("glColorMaterial", Symbol(face), Symbol(mode));

@@ -156,7 +156,7 @@ bool WritePicture(const std::string& path, const PixelImage& image, std::string&
   return EndsWith(path, ".bmp") ? WriteBmp(path, image, error) : WritePng(path, image, error);
 }
 
-/// The axes, and with them the local frame, lag one frame; so do the light and the thrust.
+/// The axes, and with them the local frame, lag one frame; so do the ray, the arrays' Sun and the thrust.
 void DrawSettled(OffscreenHost& host) {
   host.Frame();
   host.Frame();

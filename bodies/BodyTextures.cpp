@@ -12,7 +12,8 @@ namespace {
 constexpr int kSun = 1, kMercury = 2, kVenus = 3, kEarth = 4, kMars = 5, kJupiter = 6;
 
 std::string InTextureDirectory(const std::string& name) {
-  const bool hasMark = TextureDirectory.ends_with('/') || TextureDirectory.ends_with('\\');
+  const bool hasMark =
+      TextureDirectory.empty() || TextureDirectory.ends_with('/') || TextureDirectory.ends_with('\\');
   return TextureDirectory + (hasMark ? "" : "/") + name;
 }
 

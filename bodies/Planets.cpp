@@ -18,8 +18,8 @@ constexpr double kEphemerisDays = 366;
 constexpr double kMetresPerKilometre = 1000;
 constexpr double kMetresPerLightUnit = 1000000;
 constexpr int kSphereParts = 106;
-/// The list of the Moon's axis never gets a number, so that the axis is drawn at once.
-constexpr GLuint kSphereList = 0;
+/// OpenGL takes no line of width 0.
+constexpr double kThinnestLine = 0.1;
 
 GLfloat Single(double value) {
   return static_cast<GLfloat>(value);
@@ -44,9 +44,15 @@ void TakeBodyRadius(const ClassGl& scene, BodyState& state) {
   }
 }
 
-void TakeSun(BodyState& state) {
+bool TakeSun(BodyState& state) {
   Vector3 fromSun;
-  EphemerisAt(state.CurrentTime - kEphemerisDays, 0, 0, fromSun, state.SunVector);
+  return EphemerisAt(state.CurrentTime - kEphemerisDays, 0, 0, fromSun, state.SunVector);
+}
+
+void TakeLightPlace(BodyState& state) {
+  EclipticToEquator(state.SunVector, state.SunEquator);
+  for (std::size_t k = 0; k < 3; ++k)
+    state.SunPoint[k] = Single(state.SunEquator.component[k] / kMetresPerLightUnit);
 }
 
 void TakeMoon(BodyState& state) {
@@ -73,19 +79,24 @@ void SetMoonAxisColour() {
   if (USERFLAG.NoColourAxisX == 0) glColor3f(1, 1, 0);
 }
 
+void SetPlotWidth() {
+  const double width = USERFLAG.ThicknessLinePlot;
+  glLineWidth(Single(width != 0 ? width : kThinnestLine));
+}
+
 // In its own colour: neither lit nor under the Moon's picture.
-void DrawMoonAxis() {
+void DrawMoonAxis(const ClassGl& scene) {
   glDisable(GL_TEXTURE_2D);
   glDisable(GL_LIGHTING);
   constexpr double kAxisRadius = 1738, kRadiiToEnd = 3;
   const GLfloat length = Single(kAxisRadius * FactorScale * kRadiiToEnd * USERFLAG.MoonAmplification);
-  glNewList(kSphereList, GL_COMPILE);
+  glNewList(scene.glLISTE.Sphere, GL_COMPILE);
   glLineWidth(2);
   glBegin(GL_LINES);
   glVertex3f(0, 0, -length);
   glVertex3f(0, 0, length);
   glEnd();
-  glLineWidth(Single(USERFLAG.ThicknessLinePlot));
+  SetPlotWidth();
   glEndList();
   glEnable(GL_LIGHTING);
   glEnable(GL_TEXTURE_2D);
@@ -120,13 +131,11 @@ void SunAndLight(BodyState& state) {
   glEnable(GL_LIGHTING);
   glEnable(GL_LIGHT0);
   SetLightColours();
-  TakeSun(state);
-  EclipticToEquator(state.SunVector, state.SunEquator);
-  for (std::size_t k = 0; k < 3; ++k)
-    state.SunPoint[k] = Single(state.SunEquator.component[k] / kMetresPerLightUnit);
+  const bool isKnown = TakeSun(state);
+  if (isKnown) TakeLightPlace(state);
   glLightfv(GL_LIGHT0, GL_POSITION, state.SunPoint.data());
-  glLineWidth(Single(USERFLAG.ThicknessLinePlot));
-  for (int k = 1; k <= 3; ++k)
+  SetPlotWidth();
+  for (int k = 1; isKnown && k <= 3; ++k)
     state.SunFromBody(k) = -state.SunVector(k);
 }
 
@@ -140,8 +149,8 @@ void DrawCentralBody(const ClassGl& scene, BodyState& state) {
     LoadBodyTexture(scene.Host, state.EarthTexture, CentralTextureName(MoonFocus, FocusBody));
     state.EarthTextureReady = 1;
   }
-  if (!state.EarthTexture->HasPicture()) SetOptionColour(USERFLAG.ColourSphere, 1);
   state.EarthTexture->Bind();
+  if (!state.EarthTexture->HasPicture()) SetOptionColour(USERFLAG.ColourSphere, 1);
   gluQuadricTexture(state.EarthQuadric, GL_TRUE);
   glMatrixMode(GL_MODELVIEW);
   if (USERFLAG.TimeInData == 1) {
@@ -171,7 +180,7 @@ void DrawMoon(const ClassGl& scene, BodyState& state) {
   glTranslatef(Single(state.SunVector(1) * scale), Single(state.SunVector(2) * scale),
                Single(state.SunVector(3) * scale));
   SetMoonAxisColour();
-  DrawMoonAxis();
+  DrawMoonAxis(scene);
   if (!state.MoonTexture->HasPicture()) SetOptionColour(USERFLAG.ColourSphere, 1);
   if (USERFLAG.TimeInData == 1) glRotatef(Single(state.MoonSpin), 0, 0, 1);
   constexpr double kSphereRadius = 1740;

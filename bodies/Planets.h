@@ -14,7 +14,7 @@ void StartBodies(const ClassGl& scene, BodyState& state);
 void DrawSunRay(ClassGl& scene, BodyState& state);
 
 /// Places the light of the scene where the Sun stands at the frame's time, in the current matrix, and turns
-/// lighting and the depth test on.
+/// lighting and the depth test on. A time that is no number leaves the light at its place.
 void SunAndLight(BodyState& state);
 
 /// The central body as a textured sphere to scale, turned about the Z axis to its spin angle when the plot
@@ -25,7 +25,7 @@ void DrawCentralBody(const ClassGl& scene, BodyState& state);
 /// when the plot is around the Moon or with MoonSwitch 1. The matrix is left at the Moon.
 void DrawMoon(const ClassGl& scene, BodyState& state);
 
-/// Frees the quadrics.
+/// At the end of the scene: OpenGL objects that are the bodies' own go.
 void EndBodies(BodyState& state);
 
 }  // namespace quorb

@@ -22,11 +22,13 @@ bool RowEncloses(const NumberTable<Columns>& table, std::int64_t row, double t) 
 /// while time goes on in small steps. Behind the last row the search ends at `count`, a row without data, and
 /// stands still there; before the first one it ends at 0.
 /// @param count rows of the table in use.
-/// @param row 0 to `count`.
+/// @param row where the search stood; one behind `count`, as after the load of a shorter table, starts anew
+/// at 0.
 /// @param t days, as column 0 of the table.
 template <int Columns>
 std::int64_t FindRow(const NumberTable<Columns>& table, double count, std::int64_t row, double t) {
   const auto last = static_cast<std::int64_t>(count);
+  if (row > last) row = 0;
   if (CellOrZero(table, row, 0) <= t) {
     while (row <= last && !RowEncloses(table, row, t))
       ++row;

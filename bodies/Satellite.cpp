@@ -1,5 +1,6 @@
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "Attitude.h"
@@ -81,6 +82,9 @@ void Bodies::FindRows() {
 void Bodies::TakePosition() {
   if (!dataXYZT.Holds(scene.CURRINDEXI)) return;
   const double* point = dataXYZT[scene.CURRINDEXI] + 1;
+  const bool isPlace =
+      std::all_of(point, point + 3, [](double number) { return std::isfinite(static_cast<float>(number)); });
+  if (!isPlace) return;
   State.SatX = point[0];
   State.SatY = point[1];
   State.SatZ = point[2];
@@ -117,7 +121,7 @@ void Bodies::DrawLocalAxes() {
 }
 
 // The angle toward the Sun changes in every frame, and so does that of a globe which turns at the end of the
-// data: while such a one is shown, no two frames are the same.
+// data, where its date gives no sidereal angle: while such a one is shown, no two frames are the same.
 void Bodies::AddToKey(std::vector<double>& numbers) const {
   const bool hunts = USERFLAG.ShowSatellite != 0 && USERFLAG.SolarPanelToSun == 1 && ShapeArrays >= 1 &&
                      USERFLAG.SatelliteShape != kShapeCubeSat3U5;

@@ -32,6 +32,11 @@ bool DataTurnArrays(const BodyState& state) {
   return USERFLAG.SolarPanelToSun == 0 && static_cast<double>(state.QuaterIndex) < NbQuater;
 }
 
+/// An angle that a turn in single precision can take.
+bool IsTurn(double angle) {
+  return std::isfinite(static_cast<float>(angle));
+}
+
 double PlusYAngle(const BodyState& state) {
   if (IsBodyMounted()) return 0;
   if (DataTurnArrays(state) && NbSApY > 0) return CellOrZero(dataSApY, state.SApYIndex, 1);
@@ -42,7 +47,8 @@ double PlusYAngle(const BodyState& state) {
 void TakeMinusYAngle(BodyState& state) {
   state.ArraySign = 1;
   if (!DataTurnArrays(state) || NbSAmY <= 0) return;
-  state.ArrayAngle = CellOrZero(dataSAmY, state.SAmYIndex, 1);
+  const double angle = CellOrZero(dataSAmY, state.SAmYIndex, 1);
+  if (IsTurn(angle)) state.ArrayAngle = angle;
   state.ArraySign = -1;
 }
 
@@ -95,7 +101,8 @@ void TurnAboutY(const BodyState& state, int sign) {
 }
 
 void DrawPlusYArray(ClassGl& scene, BodyState& state) {
-  state.ArrayAngle = PlusYAngle(state);
+  const double angle = PlusYAngle(state);
+  if (IsTurn(angle)) state.ArrayAngle = angle;
   glPushMatrix();
   TurnAboutY(state, 1);
   DrawPanel(scene, state, 1);

@@ -64,6 +64,7 @@ double SiderealTimeAtMidnight(double modifiedJulianDay) {
 
 void ReferenceSpin(double days, int moonFocus, double& angle) {
   if (moonFocus == 1) {
+    if (!(std::abs(days) < kLargestWholeNumber)) return;
     angle = kReferenceAngle + (days - kReferenceDay) * kTurn / kMoonTurnDays;
     return;
   }

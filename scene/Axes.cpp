@@ -79,7 +79,7 @@ void ClassGl::AddAxisFromCenter(double width, float r1, float g1, float b1, floa
   glVertex3f(static_cast<GLfloat>(dx), static_cast<GLfloat>(dy), static_cast<GLfloat>(dz));
   glEnd();
   glEndList();
-  glLineWidth(static_cast<GLfloat>(USERFLAG.ThicknessLineAxis));
+  SetAxisWidth();
 }
 
 }  // namespace quorb

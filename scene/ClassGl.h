@@ -36,6 +36,7 @@ struct DisplayLists {
   /// Last row drawn when the trajectory's list was made.
   std::int32_t BrokenLineIndex = 0;
   std::uint32_t AddAxis = 0;
+  std::uint32_t Sphere = 0;
 };
 
 /// The scene: it digests the plot once after a load, and draws a frame whenever the host asks. There is one

@@ -102,6 +102,7 @@ void ClassGl::DrawBrokenLine() {
   if (BodiesShown != nullptr) BodiesShown->Start();
   DrawRayToSun();
   DrawShownSatellite();
+  if (BodiesShown != nullptr) SetPlotWidths();  // the lines of the bodies leave the width of the axes
   SetClearColour(USERFLAG.ColourBackground);
   glClearDepth(1);
   glShadeModel(GL_SMOOTH);

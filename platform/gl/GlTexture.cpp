@@ -4,16 +4,22 @@
 #include <GL/glu.h>
 
 #include <algorithm>
+#include <string_view>
 
 #include "JpegFile.h"
 
 #ifndef GL_CLAMP_TO_EDGE
 #define GL_CLAMP_TO_EDGE 0x812F
 #endif
+#ifndef GL_TEXTURE_MAX_ANISOTROPY_EXT
+#define GL_TEXTURE_MAX_ANISOTROPY_EXT 0x84FE
+#endif
 
 namespace quorb {
 
 namespace {
+
+constexpr GLfloat kAnisotropy = 4;
 
 /// OpenGL takes the bottom row first.
 void TurnUpsideDown(PixelImage& image) {
@@ -22,6 +28,16 @@ void TurnUpsideDown(PixelImage& image) {
     const auto lower = image.rgb.begin() + static_cast<std::ptrdiff_t>(image.At(0, image.height - 1 - y));
     std::swap_ranges(upper, upper + 3 * static_cast<std::ptrdiff_t>(image.width), lower);
   }
+}
+
+/// Near a pole a pixel covers many columns of the picture but few rows: without this the picture smears
+/// there.
+void SharpenWherePossible() {
+  const auto* const extensions = reinterpret_cast<const char*>(glGetString(GL_EXTENSIONS));
+  const bool known =
+      extensions != nullptr &&
+      std::string_view(extensions).find("texture_filter_anisotropic") != std::string_view::npos;
+  if (known) glTexParameterf(GL_TEXTURE_2D, GL_TEXTURE_MAX_ANISOTROPY_EXT, kAnisotropy);
 }
 
 bool SendPicture(const PixelImage& image) {
@@ -35,16 +51,21 @@ bool SendPicture(const PixelImage& image) {
   glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
   glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR_MIPMAP_LINEAR);
   glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);
+  SharpenWherePossible();
   return failure == 0;
+}
+
+void SetDullSurface() {
+  constexpr GLfloat kNoShine[] = {0, 0, 0, 1};
+  glMaterialfv(GL_FRONT, GL_SPECULAR, kNoShine);
 }
 
 /// A dull white surface: light alone tints the picture.
 void SetPictureMaterial() {
   constexpr GLfloat kWhite[] = {1, 1, 1, 1};
-  constexpr GLfloat kDull[] = {0, 0, 0, 1};
   glDisable(GL_COLOR_MATERIAL);
   glMaterialfv(GL_FRONT, GL_AMBIENT_AND_DIFFUSE, kWhite);
-  glMaterialfv(GL_FRONT, GL_SPECULAR, kDull);
+  SetDullSurface();
   glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_MODULATE);
 }
 
@@ -73,6 +94,7 @@ void GlTexture::Bind() {
     // The texture 0 has no picture, so that OpenGL draws as if there were no texture.
     glBindTexture(GL_TEXTURE_2D, 0);
     glEnable(GL_COLOR_MATERIAL);
+    SetDullSurface();
   }
 }
 

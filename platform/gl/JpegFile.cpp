@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -38,9 +39,7 @@ bool ReadBytes(const std::string& path, std::vector<unsigned char>& bytes, std::
   return false;
 }
 
-}  // namespace
-
-bool ReadJpeg(const std::string& path, PixelImage& image, std::string& error) {
+bool Decode(const std::string& path, PixelImage& image, std::string& error) {
   std::vector<unsigned char> bytes;
   if (!ReadBytes(path, bytes, error)) return false;
   const Decoder decoder(tjInitDecompress());
@@ -68,6 +67,17 @@ bool ReadJpeg(const std::string& path, PixelImage& image, std::string& error) {
   }
   image = std::move(read);
   return true;
+}
+
+}  // namespace
+
+bool ReadJpeg(const std::string& path, PixelImage& image, std::string& error) {
+  try {
+    return Decode(path, image, error);
+  } catch (const std::bad_alloc&) {
+    error = "There is not enough memory for the picture " + path + ".";
+    return false;
+  }
 }
 
 }  // namespace quorb

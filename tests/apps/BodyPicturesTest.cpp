@@ -11,8 +11,7 @@ constexpr double kMarch21Of2003 = 37701;
 constexpr double kJune21Of2025 = 45829;
 constexpr double kNoon = 0.5;
 
-// ---- the spacecraft
-// -----------------------------------------------------------------------------------------
+// ---- the spacecraft -----------------------------------------------------------------------------------
 
 struct Shape {
   const char* name;
@@ -95,8 +94,7 @@ TEST_F(SatellitePictures, TheArraysLookToTheSun) {
   ExpectPicture("satellite-arrays-sun", Shown(0, std::string(kAlongTheArrays) + " --set SolarPanelToSun=1"));
 }
 
-// ---- the bodies
-// ---------------------------------------------------------------------------------------------
+// ---- the bodies ---------------------------------------------------------------------------------------
 
 class BodyPictures : public RenderedPlot {
  protected:

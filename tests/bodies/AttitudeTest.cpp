@@ -41,6 +41,27 @@ TEST_F(AttitudeTest, AUnitQuaternionGivesItsAngleWithTheShortPi) {
   EXPECT_EQ(state.Q(4), 0.5F);
 }
 
+// A third of a turn about the diagonal: 120 degrees x 3.14159265 / 3.14159, X to Y to Z to X.
+TEST_F(AttitudeTest, EqualComponentsTurnAThirdAboutTheDiagonal) {
+  TakeAttitude(state, 0.5, 0.5, 0.5, 0.5);
+  TurnLocalAxes(state);
+  EXPECT_NEAR(state.AttitudeAngle, 120.000101, 1e-5);
+  for (const double axis : {state.AttAxisX, state.AttAxisY, state.AttAxisZ})
+    EXPECT_NEAR(axis, 0.5773503, 1e-6);
+  EXPECT_NEAR(state.SatAxisX(2), 1, 1e-6);
+  EXPECT_NEAR(state.SatAxisY(3), 1, 1e-6);
+  EXPECT_NEAR(state.SatAxisZ(1), 1, 1e-6);
+}
+
+// cos 60 = 0.5; axis (0.36, 0.48, 0.8) x sin 60.
+TEST_F(AttitudeTest, EveryComponentGoesToItsOwnAxis) {
+  const double sine = std::sqrt(0.75);
+  TakeAttitude(state, 0.5, 0.36 * sine, 0.48 * sine, 0.8 * sine);
+  EXPECT_NEAR(state.AttAxisX, 0.36, 1e-6);
+  EXPECT_NEAR(state.AttAxisY, 0.48, 1e-6);
+  EXPECT_NEAR(state.AttAxisZ, 0.8, 1e-6);
+}
+
 TEST_F(AttitudeTest, AQuaternionOfLengthThirteenTenthsPassesAndStretchesTheAxis) {
   TakeLength(1.3);
   EXPECT_NEAR(state.AttitudeAngle, 60.0000507, 1e-5);

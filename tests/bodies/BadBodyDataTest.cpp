@@ -245,7 +245,7 @@ TEST_F(BadBodyDataTest, ArrayAnglesThatAreNoAnglesAreDrawn) {
   USERFLAG.SolarPanelToSun = 0;
   SetQuarterTurn(0, 0);
   SetQuarterTurn(1, 1e9);
-  for (const double angle : {1e9, -1e30, 0.0}) {
+  for (const double angle : {1e9, -1e30, 1e300, std::nan(""), 0.0}) {
     SetPlusYAngle(0, 0, angle);
     SetPlusYAngle(1, 1e9, angle);
     SetMinusYAngle(0, 0, angle);

@@ -333,6 +333,47 @@ TEST_F(PlanetsTest, InTheEarthMoonSystemTheMoonStaysOnTheXAxisWithoutTilt) {
   EXPECT_EQ(CountOf(Moon(), "glTranslatef(384400, 0, 0)"), 1);
 }
 
+TEST_F(PlanetsTest, WithoutATimeRangeTheMoonIsNotTurned) {
+  USERFLAG.TimeInData = 0;
+  EXPECT_EQ(CountOf(Moon(), "glRotatef(180, 0, 0, 1)"), 0);
+}
+
+TEST_F(PlanetsTest, ATimeThatIsNoNumberLeavesTheLightWhereItWas) {
+  Light();
+  Moon();
+  const auto place = state.SunPoint;
+  const Vector3 fromBody = state.SunFromBody;
+  state.CurrentTime = std::nan("");
+  Light();
+  EXPECT_EQ(state.SunPoint, place);
+  EXPECT_EQ(state.SunFromBody.component, fromBody.component);
+}
+
+TEST_F(PlanetsTest, AMissingPictureIsToldOnceUntilThePanelCloses) {
+  host.missingFile = "earthjpg.jpg";
+  CentralBody();
+  CentralBody();
+  EXPECT_EQ(log.size(), 1U);
+  USERFLAG.SatelliteModelReady = 0;
+  StartBodies(scene, state);
+  CentralBody();
+  EXPECT_EQ(log.size(), 2U);
+}
+
+TEST_F(PlanetsTest, APlotLineOfNoWidthIsDrawnAsThinAsOpenGlTakesIt) {
+  USERFLAG.ThicknessLinePlot = 0;
+  EXPECT_EQ(Light().back(), "glLineWidth(0.1)");
+}
+
+TEST_F(PlanetsTest, PicturesAreSoughtInAnyKindOfDirectory) {
+  for (const char* const directory : {"/opt/quorb/", "C:\\quorb\\", ""}) {
+    TextureDirectory = directory;
+    state.EarthTextureReady = 0;
+    EXPECT_EQ(CountOf(CentralBody(), "Texture(1).Load(\"" + TextureDirectory + "earthjpg.jpg\")"), 1)
+        << directory;
+  }
+}
+
 TEST_F(PlanetsTest, MoonInItsTrueSizeHas1740Km) {
   USERFLAG.MoonAmplification = 1;
   const std::vector<std::string> calls = Moon();

@@ -38,8 +38,8 @@ TEST_F(RowSearchTest, BeforeTheFirstRowTheSearchEndsAtRowZero) {
   EXPECT_EQ(Found(0, 5), 0);
 }
 
-TEST_F(RowSearchTest, ARowBehindAShorterTableIsBroughtBack) {
-  EXPECT_EQ(Found(20, 25), 4);
+TEST_F(RowSearchTest, ARowBehindAShorterTableStartsAnew) {
+  EXPECT_EQ(Found(20, 25), 1);
 }
 
 TEST_F(RowSearchTest, AnEmptyTableGivesRowZero) {

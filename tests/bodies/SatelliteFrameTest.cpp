@@ -31,7 +31,9 @@ TEST_F(SatelliteFrameTest, TheSatelliteStandsBeforeTheTrajectoryAndLeavesItsMatr
   EXPECT_EQ(*(open - 1), "NewMaterial()");
   const auto close = std::find(place, calls.end(), "glPopMatrix()");
   ASSERT_NE(close, calls.end());
-  EXPECT_TRUE((close + 1)->starts_with("glClearColor"));
+  EXPECT_EQ(*(close + 1), "glLineWidth(1)") << "the trajectory has its own width, not that of the axes";
+  EXPECT_EQ(*(close + 2), "glPointSize(1)");
+  EXPECT_TRUE((close + 3)->starts_with("glClearColor"));
 }
 
 TEST_F(SatelliteFrameTest, WithAttitudesItIsShownInTheLocalFrameToo) {

@@ -58,6 +58,16 @@ TEST(ReferenceSpinTest, OfTheMoonTurnsIn27Point32166Days) {
   EXPECT_NEAR(ReferenceSpinAt(kMarch21Of2003 + 27.32166, 1), 230, 1e-9);
 }
 
+// 7299.5 days x 360.985647 degrees, less 130, are 2,634,884.75 degrees: 7319 turns and 45 degrees.
+TEST(ReferenceSpinTest, Is45DegreesAtNoonOf15March2023) {
+  EXPECT_EQ(ReferenceSpinAt(45000.5), 45);
+}
+
+TEST(ReferenceSpinTest, OfTheMoonKeepsTheAngleAtATimeThatIsNone) {
+  EXPECT_EQ(ReferenceSpinAt(kNaN, 1), 777);
+  EXPECT_EQ(ReferenceSpinAt(1e300, 1), 777);
+}
+
 TEST(ReferenceSpinTest, KeepsTheAngleWhenDegreesLeave32Bits) {
   EXPECT_EQ(ReferenceSpinAt(1e8), 777);
   EXPECT_EQ(ReferenceSpinAt(kNaN), 777);
@@ -118,7 +128,6 @@ TEST(SiderealAngleTest, AgreesWithTheAlmanacAtNoonOf1January2000) {
 }
 
 // 15 October 1582 is the day behind the Julian 4 October, which a Gregorian count puts 11 days before it.
-// here.
 TEST(SiderealAngleTest, CountsDatesBeforeTheReformInTheJulianCalendar) {
   constexpr double kOctober15Of1582 = -115858;
   const double difference = SiderealAngleAt(kOctober15Of1582) - SiderealAngleAt(kOctober15Of1582 - 11);
@@ -148,6 +157,10 @@ TEST(TurnMoonTest, TurnsIn27AndAHalfDays) {
 }
 
 // -20.625 days: -270 + 180 = -90, plus a turn 270.
+TEST(TurnMoonTest, Is0HalfATurnBeforeTheReference) {
+  EXPECT_EQ(MoonTurnedTo(kMarch21Of2003 - 13.75), 0);
+}
+
 TEST(TurnMoonTest, GainsATurnBelow0) {
   EXPECT_EQ(MoonTurnedTo(kMarch21Of2003 - 20.625), 270);
 }

@@ -14,6 +14,7 @@ namespace quorb {
 
 void Combo2_InitList(int& count) {
   std::vector<std::string> names;
+  names.reserve(kSatelliteShapes.size());
   for (const SatelliteShapeEntry& shape : kSatelliteShapes)
     names.emplace_back(shape.name);
   count = static_cast<int>(names.size());

@@ -20,6 +20,7 @@
 #include "Bodies.h"
 #include "BodyTextures.h"
 #include "ClassGl.h"
+#include "DrawingEvents.h"
 #include "OffscreenHost.h"
 #include "PlotData.h"
 #include "Ratio.h"
@@ -35,18 +36,6 @@ constexpr double kFirstDay = 45000;
 constexpr double kOrbitRadius = 7000;
 /// Body, plume, two arrays and two masts, six sides each.
 constexpr int kPolygons = 36;
-
-class Events : public HostEvents {
- public:
-  void Initialise() override { scene->init(); }
-  void ContextReady() override { scene->InitGL(); }
-  void Resize(int width, int height) override { scene->Reshape(width, height); }
-  void Draw() override { draw(); }
-  void Overlay() override {}
-
-  ClassGl* scene = nullptr;
-  std::function<void()> draw = [] {};
-};
 
 void StopWhen(bool failed, const std::string& reason) {
   if (!failed) return;
@@ -163,7 +152,7 @@ void FrameWithEverythingOn(benchmark::State& state) {
   StopWhen(!host, error);
   ClassGl scene(*host);
   scene.BodiesShown = std::make_unique<Bodies>(scene);
-  Events events;
+  DrawingEvents events;
   events.scene = &scene;
   StopWhen(!host->Start(events, error), error);
   scene.Range = 80;

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "ClassGl.h"
+#include "DrawingEvents.h"
 #include "OffscreenHost.h"
 #include "PlotData.h"
 #include "Ratio.h"
@@ -28,23 +29,10 @@ namespace {
 constexpr int kRows = kRowBound;
 constexpr double kPlotRange = 60;
 
-/// Host events that draw what is set.
-class Events : public HostEvents {
- public:
-  void Initialise() override { scene->init(); }
-  void ContextReady() override { scene->InitGL(); }
-  void Resize(int width, int height) override { scene->Reshape(width, height); }
-  void Draw() override { draw(); }
-  void Overlay() override {}
-
-  ClassGl* scene = nullptr;
-  std::function<void()> draw = [] {};
-};
-
 struct Stage {
   std::unique_ptr<OffscreenHost> host;
   std::unique_ptr<ClassGl> scene;
-  Events events;
+  DrawingEvents events;
 };
 
 std::unique_ptr<Stage> MakeStage(int width, int height) {

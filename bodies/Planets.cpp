@@ -2,6 +2,7 @@
 
 #include "BodyTextures.h"
 #include "Ephemeris.h"
+#include "LineWidth.h"
 #include "ModMATHASdbl.h"
 #include "PlotData.h"
 #include "RunState.h"
@@ -18,8 +19,6 @@ constexpr double kEphemerisDays = 366;
 constexpr double kMetresPerKilometre = 1000;
 constexpr double kMetresPerLightUnit = 1000000;
 constexpr int kSphereParts = 106;
-/// OpenGL takes no line of width 0.
-constexpr double kThinnestLine = 0.1;
 
 GLfloat Single(double value) {
   return static_cast<GLfloat>(value);
@@ -79,11 +78,6 @@ void SetMoonAxisColour() {
   if (USERFLAG.NoColourAxisX == 0) glColor3f(1, 1, 0);
 }
 
-void SetPlotWidth() {
-  const double width = USERFLAG.ThicknessLinePlot;
-  glLineWidth(Single(width != 0 ? width : kThinnestLine));
-}
-
 // In its own colour: neither lit nor under the Moon's picture.
 void DrawMoonAxis(const ClassGl& scene) {
   glDisable(GL_TEXTURE_2D);
@@ -96,7 +90,7 @@ void DrawMoonAxis(const ClassGl& scene) {
   glVertex3f(0, 0, -length);
   glVertex3f(0, 0, length);
   glEnd();
-  SetPlotWidth();
+  glLineWidth(DrawnWidth(USERFLAG.ThicknessLinePlot));
   glEndList();
   glEnable(GL_LIGHTING);
   glEnable(GL_TEXTURE_2D);
@@ -134,7 +128,7 @@ void SunAndLight(BodyState& state) {
   const bool isKnown = TakeSun(state);
   if (isKnown) TakeLightPlace(state);
   glLightfv(GL_LIGHT0, GL_POSITION, state.SunPoint.data());
-  SetPlotWidth();
+  glLineWidth(DrawnWidth(USERFLAG.ThicknessLinePlot));
   for (int k = 1; isKnown && k <= 3; ++k)
     state.SunFromBody(k) = -state.SunVector(k);
 }

@@ -4,6 +4,7 @@
 
 #include "AxisLabels.h"
 #include "ClassGl.h"
+#include "LineWidth.h"
 #include "PlotData.h"
 #include "RunState.h"
 #include "SceneColour.h"
@@ -19,8 +20,6 @@ namespace {
 constexpr int kSceneTextColour = 0xFF55AA;
 /// Distance of the vernal point's text from the centre, in kilometres: a low orbit's radius.
 constexpr double kVernalTextKilometres = 6978.137;
-/// OpenGL takes no line of width 0.
-constexpr double kThinnestLine = 0.1;
 /// Points of separate objects are this many times as large as the line is wide.
 constexpr double kPenUpPointFactor = 15;
 
@@ -43,10 +42,6 @@ bool SatelliteIsShown() {
   std::int32_t shown = 0;
   AssignRounded(shown, USERFLAG.ShowSatellite);
   return USERFLAG.NedInput != 1.0 && shown != 0;
-}
-
-GLfloat DrawnWidth(double thickness) {
-  return static_cast<GLfloat>(thickness != 0 ? thickness : kThinnestLine);
 }
 
 }  // namespace

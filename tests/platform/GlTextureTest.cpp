@@ -42,6 +42,21 @@ class GlTextureTest : public FrameFixture {
     return file;
   }
 
+  /// A small picture whose frame header claims a width and a height: behind its mark FF C0 stand its length,
+  /// 8 bits a colour, then height and width in two bytes each.
+  static std::vector<unsigned char> PictureClaiming(unsigned side) {
+    std::vector<unsigned char> bytes =
+        Encoded(32, 32, std::vector<unsigned char>(3072, 128), TJPF_RGB, TJSAMP_444);
+    std::size_t frame = 0;
+    while (!(bytes[frame] == 0xFF && bytes[frame + 1] == 0xC0))
+      ++frame;
+    for (const std::size_t at : {frame + 5, frame + 7}) {
+      bytes[at] = static_cast<unsigned char>(side / 256);
+      bytes[at + 1] = static_cast<unsigned char>(side % 256);
+    }
+    return bytes;
+  }
+
   void Write(const std::vector<unsigned char>& bytes) const {
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
@@ -237,31 +252,12 @@ TEST_F(GlTextureTest, APictureThatIsCutShortIsRefused) {
 }
 
 TEST_F(GlTextureTest, APictureThatClaimsHugeSidesIsRefused) {
-  std::vector<unsigned char> bytes =
-      Encoded(32, 32, std::vector<unsigned char>(3072, 128), TJPF_RGB, TJSAMP_444);
-  // The frame header: its mark FF C0, its length, 8 bits a colour, then height and width in two bytes each.
-  std::size_t frame = 0;
-  while (!(bytes[frame] == 0xFF && bytes[frame + 1] == 0xC0))
-    ++frame;
-  for (const std::size_t side : {frame + 5, frame + 7}) {
-    bytes[side] = 60000 / 256;
-    bytes[side + 1] = 60000 % 256;
-  }
-  Write(bytes);
-  ExpectRefused("has ");
+  Write(PictureClaiming(60000));
+  ExpectRefused("has sides of more than 16384 pixels");
 }
 
 TEST_F(GlTextureTest, APictureOfMorePixelsThanTheMemoryIsMeantForIsRefused) {
-  std::vector<unsigned char> bytes =
-      Encoded(32, 32, std::vector<unsigned char>(3072, 128), TJPF_RGB, TJSAMP_444);
-  std::size_t frame = 0;
-  while (!(bytes[frame] == 0xFF && bytes[frame + 1] == 0xC0))
-    ++frame;
-  for (const std::size_t side : {frame + 5, frame + 7}) {
-    bytes[side] = 16000 / 256;
-    bytes[side + 1] = 16000 % 256;
-  }
-  Write(bytes);
+  Write(PictureClaiming(16000));
   ExpectRefused("has more than 67108864 pixels");
 }
 

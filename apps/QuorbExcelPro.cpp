@@ -1,8 +1,11 @@
 #include <QApplication>
 
+#include "CalcLink.h"
 #include "CommandLine.h"
+#include "PutBackSpreadsheet.h"
 #include "QtDialogs.h"
 #include "QtSettings.h"
+#include "SheetLink.h"
 #include "SystemDayClock.h"
 #include "SystemDesktop.h"
 #include "SystemFiles.h"
@@ -45,7 +48,10 @@ int main(int argc, char** argv) {
   SystemRegion region;
   SystemDesktop desktop;
   SystemDayClock clock;
-  dialogs.beforeEnd = [&settings] { settings.Flush(); };
+  dialogs.beforeEnd = [&settings] {
+    PutBackSpreadsheet();
+    settings.Flush();
+  };
   SetDialogs(&dialogs);
   SetSettings(&settings);
   SetFileAccess(&files);
@@ -53,6 +59,9 @@ int main(int argc, char** argv) {
   desktop.opensDataFiles = true;
   SetDesktop(&desktop);
   SetDayClock(&clock);
+
+  CalcLink spreadsheet;
+  SetSheetLink(&spreadsheet);
 
   ViewerWindow window;
   window.Load(commandLine);

@@ -10,6 +10,8 @@
 #include "FileChoice.h"
 #include "PlotData.h"
 #include "RunState.h"
+#include "SheetSession.h"
+#include "SpreadsheetSession.h"
 #include "TextHelpers.h"
 #include "UserFlag.h"
 
@@ -51,7 +53,6 @@ void TakeSpecification(const DataFileHeader& header, LoadState& load) {
   load.pass.scale = load.givenScale;
   MessageUserToPlot = load.specification.title;
   if (!load.specification.hasTitle && !header.title.empty()) MessageUserToPlot = header.title;
-  LastFormula = header.formula;
 }
 
 /// The ranges of the file's formula whose size the load looks at; the others are only empty or not.
@@ -76,8 +77,10 @@ bool IsOnlyXYZ(const SpecificationText& specification, const RangeNumbers& XYZ) 
 void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& window) {
   NbQuater = NbSApY = NbSAmY = NbValZ = 0;
   PenUpMode = ColumnMode = PenUpLabelMode = 0;
-  TakeSpecification(ReadHeader(headerLine), load);
-  window.AppendLog("Extraction_info cellFormula " + LastFormula);
+  const DataFileHeader header = ReadHeader(headerLine);
+  if (!load.throughSheet) LastFormula = header.formula;
+  window.AppendLog("Extraction_info cellFormula " + header.formula);
+  TakeSpecification(header, load);
   Extraction_information_mots_clef(KeywordStage::beforeRows, load.keywords);
   if (load.keywords.clearCheck9) window.SetValue(LoaderControl::Check9, 0);
   if (load.keywords.forcedScale) load.pass.scale = *load.keywords.forcedScale;
@@ -139,20 +142,24 @@ void SetLoaderWindow(LoaderWindow* window) {
 }
 
 void LoadPlot() {
-  if (loaderWindow == nullptr) return;
+  if (loaderWindow == nullptr || SpreadsheetInUse()) return;
   LoaderWindow& window = *loaderWindow;
+  const int thisLoad = ++LoadsStarted;
   MainKeyword = Trim(window.MainKeywordText());
   USERFLAG.SynchroExcelComplete = 0.0;
   ForgetColumnPlot();
   SetBodiesForColumnMode(window);
   LoadBusy = 1;
   window.ShowProgress(true);
+  LoadState load;
+  load.throughSheet = CommandFileMode != 1 && FileMode < 1;
+  if (load.throughSheet && ReadSpreadsheet(window) == SheetReading::leaveLoad) return;
+  if (thisLoad != LoadsStarted) return;  // another load ran while this one waited for the user
   FILEcOMMANDnAME = CommandFileName;
   window.RegisterFileType();
   window.ShowProgress(true);
   CloseChannel(1);
 
-  LoadState load;
   load.keywords = StartKeywordPass();
   ReadChosenFile(load, window);
   ConditionPlot(load, window);

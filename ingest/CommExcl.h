@@ -7,10 +7,12 @@
 
 namespace quorb {
 
-/// The one road for data: chooses the file, reads its header and its rows into the plot arrays, and
-/// conditions them. It takes no argument; it works from the run state (CommandFileMode, CommandFileName,
-/// FileMode). Callers set DEJADRAW and DEJARESET to 0, and FileMode, before. Nothing is reported but to the
-/// log and in message boxes: a failed statement is skipped and the load goes on.
+/// The one road for data: pours the running spreadsheet into the data file, unless another file is wanted,
+/// chooses the file, reads its header and its rows into the plot arrays, and conditions them. It takes no
+/// argument; it works from the run state (CommandFileMode, CommandFileName, FileMode). Ranges in the sheet
+/// that cannot hold a plot end it early: LoadBusy then stays 1. A call while the sheet is poured does
+/// nothing. Callers set DEJADRAW and DEJARESET to 0, and FileMode, before. Nothing is reported but to the log
+/// and in message boxes: a failed statement is skipped and the load goes on.
 void LoadPlot();
 
 /// What the last load made of its file.

@@ -12,9 +12,10 @@ struct LoadState {
   SpecificationText specification;
   TitleKeywords keywords = {};
   LoadPass pass;
-  double givenScale = 1.0;  ///< the plot's scale, also while another one is forced for the rows
-  bool isDemo = false;      ///< the demonstration was announced
-  bool wholeXYZ = false;    ///< PenUpMode, and the three columns of X, Y, Z are the only range
+  double givenScale = 1.0;    ///< the plot's scale, also while another one is forced for the rows
+  bool isDemo = false;        ///< the demonstration was announced
+  bool wholeXYZ = false;      ///< PenUpMode, and the three columns of X, Y, Z are the only range
+  bool throughSheet = false;  ///< the load went through the spreadsheet before the file
 };
 
 /// Brings the rows that were read to the plot that the scene draws: built-in plot when there are none, colour

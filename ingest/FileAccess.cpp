@@ -19,6 +19,10 @@ FileAccess* currentFiles = &noFiles;
 
 }  // namespace
 
+std::unique_ptr<OutputFile> FileAccess::Create(const std::string&) {
+  return nullptr;
+}
+
 FileAccess& CurrentFileAccess() {
   return *currentFiles;
 }

@@ -22,6 +22,19 @@ class MappedFile {
   virtual bool Shrunk() const = 0;
 };
 
+/// A file that is being written. It takes the name that it was made for when it is committed, whole and in
+/// place of the one that was there; without that it leaves no trace.
+class OutputFile {
+ public:
+  virtual ~OutputFile() = default;
+
+  /// Appends bytes. False on failure; Commit then fails too.
+  virtual bool Write(std::string_view bytes) = 0;
+
+  /// Closes the file and gives it its name. False on failure: the file that was there stays.
+  virtual bool Commit() = 0;
+};
+
 /// What the loader asks of the platform's files.
 class FileAccess {
  public:
@@ -30,6 +43,10 @@ class FileAccess {
   /// Maps a regular file. A failure gives a null pointer and sets `errorNumber` to 52 bad name, 53 no such
   /// file, 70 no permission, 75 not a file that can be read, 76 no such directory; success sets it to 0.
   virtual std::unique_ptr<MappedFile> Map(const std::string& path, int& errorNumber) = 0;
+
+  /// Begins a file under that name, in a directory that is made when it is missing. A failure gives a null
+  /// pointer, and so do files that are only for reading.
+  virtual std::unique_ptr<OutputFile> Create(const std::string& path);
 
   /// Where a file of the program's directory really stands: there, or under the same name in the user's data
   /// directory when this user cannot write there.

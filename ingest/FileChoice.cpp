@@ -48,6 +48,11 @@ void OpenNamedFile(int& ErrorNumber, LoaderWindow& window) {
     window.AppendLog("FILEcOMMANDnAME$ cleaned " + FILEcOMMANDnAME);
   }
   OpenfileW(FILEcOMMANDnAME, 1, ErrorNumber, window);
+  const std::size_t ending = FILEcOMMANDnAME.find(".txt");
+  if (MaybeExtError != 1 || ending == std::string::npos) return;
+  FILEcOMMANDnAME = FILEcOMMANDnAME.substr(0, ending) + ".qbv";
+  window.AppendLog("MaybeExtError = 1  FILEcOMMANDnAME$ " + FILEcOMMANDnAME);
+  OpenfileW(FILEcOMMANDnAME, 1, ErrorNumber, window);
 }
 
 void OpenLastFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {

@@ -5,8 +5,6 @@
 #include "FormulaHints.h"
 #include "Keywords.h"
 #include "PlotData.h"
-#include "RangeAnalysis.h"
-#include "ReportLines.h"
 #include "RunState.h"
 #include "Specification.h"
 #include "TextHelpers.h"
@@ -78,6 +76,16 @@ void ReportRange(const std::string& name, const PlotRange& range, ReportLines& r
 
 }  // namespace
 
+void ReportRanges(const PlotRanges& ranges, ReportLines& report) {
+  ReportRange("rangeXYZ", OnlyXYZ(ranges.rangeXYZ), report);
+  ReportRange("rangeT", ranges.rangeT, report);
+  ReportRange("rangeEvents", ranges.rangeEvents, report);
+  ReportRange("rangeQuater", ranges.rangeQuater, report);
+  ReportRange("rangeSApY", ranges.rangeSApY, report);
+  ReportRange("rangeSAmY", ranges.rangeSAmY, report);
+  ReportRange("rangeValZ", ranges.rangeValZ, report);
+}
+
 FormulaReport ReportFormula(const std::string& formula, LoaderWindow& window) {
   MainKeyword = Trim(window.MainKeywordText());
   const SpecificationText specification = Extraction_info(formula, "");
@@ -97,13 +105,7 @@ FormulaReport ReportFormula(const std::string& formula, LoaderWindow& window) {
   report.Text("TitleAsGiven", specification.title);
   report.Text("Title", MessageUserToPlot);
   ReportKeywords(keywords, report);
-  ReportRange("rangeXYZ", OnlyXYZ(ranges.rangeXYZ), report);
-  ReportRange("rangeT", ranges.rangeT, report);
-  ReportRange("rangeEvents", ranges.rangeEvents, report);
-  ReportRange("rangeQuater", ranges.rangeQuater, report);
-  ReportRange("rangeSApY", ranges.rangeSApY, report);
-  ReportRange("rangeSAmY", ranges.rangeSAmY, report);
-  ReportRange("rangeValZ", ranges.rangeValZ, report);
+  ReportRanges(ranges, report);
   result.text = report.Take();
   return result;
 }

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "LoaderWindow.h"
+#include "RangeAnalysis.h"
+#include "ReportLines.h"
 
 namespace quorb {
 
@@ -24,5 +26,8 @@ struct FormulaReport {
 /// one row high. Messages are shown and log lines written as in a load. Sets `MainKeyword`, the title and the
 /// flags that keywords and ranges set, and leaves the plot arrays alone.
 FormulaReport ReportFormula(const std::string& formula, LoaderWindow& window);
+
+/// Each range as ReportFormula tells it.
+void ReportRanges(const PlotRanges& ranges, ReportLines& report);
 
 }  // namespace quorb

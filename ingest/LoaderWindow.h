@@ -5,9 +5,10 @@
 namespace quorb {
 
 /// The controls of the main window that the loader reads and sets.
-enum class LoaderControl { Check1_0, Check3, Check4, Check5, Check9, Check11 };
+enum class LoaderControl { Check1_0, Check3, Check4, Check5, Check9, Check11, Combo1, Command6, TextTempo };
 
-/// What the loader asks of the main window. Values of check boxes are 0, 1 or 2.
+/// What the loader asks of the main window. Values of check boxes are 0, 1 or 2;
+/// other controls have the value 0.
 class LoaderWindow {
  public:
   virtual ~LoaderWindow() = default;
@@ -40,6 +41,14 @@ class LoaderWindow {
   virtual void RegisterFileType() = 0;
   /// Sets the bar of the redraw speed.
   virtual void SetSpeedBar(int value) = 0;
+  /// The text of `TextTempo`, which tells the user what is missing.
+  virtual void SetTextTempo(const std::string& text) = 0;
+  /// Gives the control the keyboard focus.
+  virtual void SetFocus(LoaderControl control) = 0;
+  /// What `Combo1` does when it gets the focus.
+  virtual void Combo1_GotFocusRoutine() = 0;
+  /// Lets events through for that time.
+  virtual void Pause(double seconds) = 0;
 
   /// Puts the scene's camera on a standard view.
   virtual void CameraSet(const std::string& mode, double value, double flag) = 0;

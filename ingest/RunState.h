@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "Dialogs.h"
+
 namespace quorb {
 
 // ---- state of one load ----------------------------------------------------------------------------------
@@ -34,6 +36,18 @@ extern int FormulaArmed;
 /// 1 and the text when the user typed a specification instead of writing it into the sheet.
 extern int SpecTyped;
 extern std::string SpecTypedText;
+/// Name of the active sheet and caption of its window at the watcher's last poll.
+extern std::string WatchSheetName, WatchCaption;
+/// How the user answered the last question of the loader or the watcher; none clears it.
+extern BoxAnswer LastAnswer;
+/// 1 once the user was told that the spreadsheet runs without a workbook, until it has one again.
+extern int NoWorkbookTold;
+/// Number of the failure that the watcher has shown last, until it could read all again.
+extern int WatchFaultTold;
+/// 1 once a missing file (53) stopped the way to the spreadsheet: the named file's ending is then mended.
+extern int MaybeExtError;
+/// Loads that were started in this run.
+extern int LoadsStarted;
 /// The keyword that marks a range in the formula.
 extern std::string MainKeyword;
 /// The program's directory, or the place where the user chose that images go.

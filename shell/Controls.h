@@ -149,6 +149,9 @@ class ScrollBar : public Control {
 class ComboBox : public Control {
  public:
   Shown<std::vector<std::string>> items{*this, {}};
+  /// Its event routines: the text is entered, a key goes down (its number), the control gets the focus.
+  std::function<void()> entered, gotFocus;
+  std::function<void(int key)> keyDown;
   ControlValue<std::string> text{*this, ""};
 };
 
@@ -171,6 +174,8 @@ class Menu : public Control {
  public:
   std::string caption;
   Shown<bool> checked{*this, false};
+  /// Its event routine: the user chooses the entry.
+  std::function<void()> clicked;
 };
 
 }  // namespace quorb

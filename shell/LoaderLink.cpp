@@ -1,17 +1,23 @@
 #include "LoaderLink.h"
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "Desktop.h"
+#include "Dialogs.h"
 #include "OptionPanel.h"
 #include "RunState.h"
 #include "Settings.h"
 #include "SettingsStore.h"
+#include "SheetControls.h"
 #include "frmMain.h"
 
 namespace quorb {
 
 namespace {
+
+constexpr std::chrono::duration<double> kPumpEvery(0.01);
 
 CheckBox& CheckOf(LoaderControl control) {
   switch (control) {
@@ -25,10 +31,26 @@ CheckBox& CheckOf(LoaderControl control) {
       return frmMain->Check5;
     case LoaderControl::Check9:
       return frmMain->Check9;
-    case LoaderControl::Check11:
-      break;
+    default:
+      return frmMain->Check11;
   }
-  return frmMain->Check11;
+}
+
+bool IsCheck(LoaderControl control) {
+  return control <= LoaderControl::Check11;
+}
+
+Control& ControlOf(LoaderControl control) {
+  switch (control) {
+    case LoaderControl::Combo1:
+      return frmMain->Combo1;
+    case LoaderControl::Command6:
+      return frmMain->Command6;
+    case LoaderControl::TextTempo:
+      return frmMain->TextTempo;
+    default:
+      return CheckOf(control);
+  }
 }
 
 class LoaderLink : public LoaderWindow {
@@ -44,11 +66,27 @@ class LoaderLink : public LoaderWindow {
   }
   void ShowProgress(bool visible) override { frmMain->ProgressBar1.visible = visible; }
   void SetProgress(double value) override { frmMain->ProgressBar1.value = value; }
-  int Value(LoaderControl control) const override { return CheckOf(control).value; }
-  void SetValue(LoaderControl control, int value) override { CheckOf(control).value = value; }
-  std::string Tag(LoaderControl control) const override { return CheckOf(control).Tag; }
-  void SetTag(LoaderControl control, const std::string& tag) override { CheckOf(control).Tag = tag; }
-  void Show(LoaderControl control, bool visible) override { CheckOf(control).visible = visible; }
+  int Value(LoaderControl control) const override {
+    return IsCheck(control) ? CheckOf(control).value.Get() : 0;
+  }
+  void SetValue(LoaderControl control, int value) override {
+    if (IsCheck(control)) CheckOf(control).value = value;
+  }
+  std::string Tag(LoaderControl control) const override { return ControlOf(control).Tag; }
+  void SetTag(LoaderControl control, const std::string& tag) override { ControlOf(control).Tag = tag; }
+  void Show(LoaderControl control, bool visible) override { ControlOf(control).visible = visible; }
+  void SetTextTempo(const std::string& text) override { frmMain->TextTempo.text = text; }
+  void SetFocus(LoaderControl control) override { ControlOf(control).SetFocus(); }
+  void Combo1_GotFocusRoutine() override { quorb::Combo1_GotFocusRoutine(); }
+  void Pause(double seconds) override {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::duration<double>(seconds);
+    CurrentDialogs().PumpEvents();
+    while (Clock::now() < end) {
+      std::this_thread::sleep_for(std::min<std::chrono::duration<double>>(kPumpEvery, end - Clock::now()));
+      CurrentDialogs().PumpEvents();
+    }
+  }
   std::string MainKeywordText() const override { return frmMain->Text9.text; }
   void SetSatelliteSize(double size) override {
     ScrollBar& bar = frmMain->HScroll3;

@@ -6,6 +6,7 @@
 #include "OptionPanel.h"
 #include "PlotControls.h"
 #include "SatelliteControls.h"
+#include "SheetControls.h"
 #include "frmMain.h"
 
 namespace quorb {
@@ -172,6 +173,13 @@ void TieControls(MainWindow& window) {
   window.HScroll7.value.changed = HScroll7_Change;
   window.HScroll8.value.changed = HScroll8_Change;
   window.HScroll10.value.changed = HScroll10_Change;
+  window.Combo1.entered = Combo1_Entered;
+  window.Combo1.keyDown = Combo1_KeyDown;
+  window.Combo1.gotFocus = Combo1_GotFocusRoutine;
+  window.mnuFExit.clicked = Form_Unload;
+  window.mnuOinteractive.clicked = mnuOinteractive_Click;
+  window.Command6.clicked = Command6_Click;
+  window.mnuUpdateExcel.clicked = mnuUpdateExcel_Click;
   window.Command7.clicked = Command7_Click;
   window.Command7.keyPressed = Command7_KeyDown;
 }

@@ -18,6 +18,8 @@
 #include "SatelliteControls.h"
 #include "Settings.h"
 #include "SettingsStore.h"
+#include "SheetControls.h"
+#include "SheetWatcher.h"
 #include "TextHelpers.h"
 #include "UserFlag.h"
 
@@ -123,6 +125,12 @@ void HideMenus() {
   }
 }
 
+void FillLists() {
+  int entries = 0, shapes = 0;
+  Combo1_InitList(entries);
+  Combo2_InitList(shapes);
+}
+
 void LoadOptions() {
   OptionsRead();
   USERFLAGfactory = USERFLAG;
@@ -135,8 +143,7 @@ void LoadOptions() {
   Text7_Change();
   if (noneStored == 0) OptionAffecteUser();
   ConfirmInteractive();
-  int shapes = 0;
-  Combo2_InitList(shapes);
+  FillLists();
 }
 
 void MakeBodies() {
@@ -151,6 +158,7 @@ void StartScene(glCtl& host) {
   glxCtl1 = &host;
   TheScene = std::make_unique<ClassGl>(host);
   MakeBodies();
+  TheScene->WatchSheet = [] { WatchSheet(); };
   HScroll1_Change();
   HScroll2_Change();
   TheScene->EditState(static_cast<int>(MouseMode::pan));
@@ -186,12 +194,11 @@ void Form_Activate() {
   if (FirstActivated != 1) {
     ImageDirRefresh();
     DEJADRAW = DEJARESET = FileMode = 0;
+    FirstActivated = 1;  // an activation while the load waits for the user starts no other one
     LoadPlot();
-    FirstActivated = 1;
   }
   window.Command6.Tag.clear();
-  int shapes = 0;
-  Combo2_InitList(shapes);
+  FillLists();
   window.Combo1.Width = 390;
   if (USERFLAG.TimeInData == 0) {
     window.Check3.value = 0;

@@ -1,5 +1,6 @@
 #include "ControlBinding.h"
 
+#include <QElapsedTimer>
 #include <QSignalBlocker>
 #include <cmath>
 
@@ -13,6 +14,10 @@ constexpr int kLongestShownLog = 200000;
 QString Text(const std::string& text) {
   return QString::fromStdString(text);
 }
+
+/// Milliseconds between two moves of a progress bar that are painted at once: with each of them the whole
+/// window is put together anew.
+constexpr qint64 kBetweenPaintings = 150;
 
 void ShowState(QWidget& widget, const Control& control) {
   widget.setVisible(control.visible);
@@ -68,6 +73,7 @@ void BindButton(CommandButton& widget, Button& control) {
   widget.setText(Text(control.caption));
   control.refresh = [&widget, &control] { ShowState(widget, control); };
   control.refresh();
+  control.takeFocus = [&widget] { widget.setFocus(); };
   QObject::connect(&widget, &QPushButton::clicked, &widget, [&control] {
     if (control.clicked) control.clicked();
   });
@@ -76,13 +82,46 @@ void BindButton(CommandButton& widget, Button& control) {
   };
 }
 
+void BindSpecification(SpecificationBox& widget, ComboBox& control) {
+  control.refresh = [&widget, &control] {
+    const QSignalBlocker block(widget);
+    ShowState(widget, control);
+    widget.setFixedWidth(static_cast<int>(std::lround(control.Width / kTwipsPerPixel)));
+    QStringList entries;
+    for (const std::string& entry : control.items.Get())
+      entries.append(Text(entry));
+    if (!widget.HoldsEntries(entries)) {
+      widget.clear();
+      widget.addItems(entries);
+    }
+    if (widget.currentText() != Text(control.text)) widget.setEditText(Text(control.text));
+  };
+  control.refresh();
+  control.takeFocus = [&widget] { widget.setFocus(); };
+  QObject::connect(&widget, &QComboBox::editTextChanged, &widget,
+                   [&control](const QString& text) { control.text = text.toStdString(); });
+  widget.entered = [&control] {
+    if (control.entered) control.entered();
+  };
+  widget.keyPressed = [&control](int key) {
+    if (control.keyDown) control.keyDown(key);
+  };
+  widget.gotFocus = [&control] {
+    if (control.gotFocus) control.gotFocus();
+  };
+}
+
 void BindProgress(QProgressBar& widget, ProgressBar& control) {
   widget.setRange(0, 100);
   widget.setTextVisible(false);
-  control.refresh = [&widget, &control] {
+  QElapsedTimer sincePainted;
+  sincePainted.start();
+  control.refresh = [&widget, &control, sincePainted]() mutable {
     ShowState(widget, control);
     widget.setValue(static_cast<int>(std::lround(control.value)));
-    if (control.visible) widget.repaint();
+    if (!control.visible || sincePainted.elapsed() < kBetweenPaintings) return;
+    widget.repaint();
+    sincePainted.restart();
   };
   control.refresh();
 }
@@ -96,16 +135,19 @@ void BindMenu(QMenu& widget, Menu& control) {
   control.refresh();
 }
 
-void BindEntry(QAction& widget, Menu& control, std::function<void()> chosen) {
+void BindEntry(QAction& widget, Menu& control) {
   widget.setText(Text(control.caption));
   control.refresh = [&widget, &control] {
     widget.setVisible(control.visible);
     widget.setEnabled(control.enabled);
+    const QSignalBlocker block(widget);
     widget.setCheckable(control.checked);
     widget.setChecked(control.checked);
   };
   control.refresh();
-  QObject::connect(&widget, &QAction::triggered, &widget, std::move(chosen));
+  QObject::connect(&widget, &QAction::triggered, &widget, [&control] {
+    if (control.clicked) control.clicked();
+  });
 }
 
 }  // namespace quorb

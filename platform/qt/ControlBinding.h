@@ -10,6 +10,7 @@
 
 #include "CommandButton.h"
 #include "Controls.h"
+#include "SpecificationBox.h"
 
 namespace quorb {
 
@@ -24,9 +25,11 @@ void BindLine(QLabel& widget, TextBox& control);
 void BindLog(QPlainTextEdit& widget, TextBox& control);
 /// Its caption, its click and its keys.
 void BindButton(CommandButton& widget, Button& control);
+/// Its entries, its text, its routines, and its width, which changes with the focus.
+void BindSpecification(SpecificationBox& widget, ComboBox& control);
 void BindProgress(QProgressBar& widget, ProgressBar& control);
 void BindMenu(QMenu& widget, Menu& control);
-/// `chosen` runs when the user chooses the entry.
-void BindEntry(QAction& widget, Menu& control, std::function<void()> chosen);
+/// An entry of a menu or of the menu bar; its routine runs when the user chooses it.
+void BindEntry(QAction& widget, Menu& control);
 
 }  // namespace quorb

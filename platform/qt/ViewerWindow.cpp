@@ -103,10 +103,23 @@ void ViewerWindow::MakeWidgets() {
   bars->addWidget(progress);
   rows->addLayout(bars);
   rows->addStretch(1);
+  auto* line = new QHBoxLayout;
+  auto* specification = new SpecificationBox(strip_);
+  BindSpecification(*specification, window.Combo1);
+  line->addWidget(specification);
   auto* status = new QLabel(strip_);
   BindLine(*status, window.Text14);
-  rows->addWidget(status);
+  line->addWidget(status);
+  line->addStretch(1);
+  rows->addLayout(line);
   window.StatusBar1.Height = kStripHeight * kTwipsPerPixel;
+
+  prompt_ = new QLabel(canvas_);
+  prompt_->setObjectName("TextTempo");
+  prompt_->setStyleSheet("background-color: rgb(192, 255, 255); color: black; padding: 2px;");
+  BindLine(*prompt_, window.TextTempo);
+  demonstration_ = new CommandButton(canvas_);
+  BindButton(*demonstration_, window.Command6);
 
   log_ = new QPlainTextEdit(canvas_);
   BindLog(*log_, window.Text20);
@@ -149,7 +162,11 @@ void ViewerWindow::MakeMenus() {
   MainWindow& window = *frmMain;
   QMenu* file = menuBar()->addMenu(QString());
   BindMenu(*file, window.mnuFile);
-  BindEntry(*file->addAction(QString()), window.mnuFExit, [this] { close(); });
+  BindEntry(*file->addAction(QString()), window.mnuFExit);
+  QMenu* options = menuBar()->addMenu(QString());
+  BindMenu(*options, window.mnuOptions);
+  BindEntry(*options->addAction(QString()), window.mnuOinteractive);
+  BindEntry(*menuBar()->addAction(QString()), window.mnuUpdateExcel);
   menuBar()->setVisible(window.mnuFile.visible);
 }
 
@@ -157,13 +174,17 @@ void ViewerWindow::LayOut() {
   MainWindow& window = *frmMain;
   window.form.Width = canvas_->width() * kTwipsPerPixel;
   window.form.Height = canvas_->height() * kTwipsPerPixel;
-  PlaceWidgets();
   Form_Resize();
+  PlaceWidgets();
 }
 
 void ViewerWindow::PlaceWidgets() {
   const int stripHeight = Pixels(frmMain->StatusBar1.Height);
   strip_->setGeometry(0, canvas_->height() - stripHeight, canvas_->width(), stripHeight);
+  prompt_->setGeometry(0, Pixels(frmMain->TextTempo.Top), canvas_->width(),
+                       Pixels(frmMain->TextTempo.Height));
+  demonstration_->move(8, Pixels(frmMain->Command6.Top));
+  demonstration_->resize(demonstration_->sizeHint().width(), Pixels(frmMain->Command6.Height));
   log_->setGeometry(canvas_->rect().adjusted(20, 20, -20, -20 - stripHeight));
 }
 
@@ -206,7 +227,7 @@ bool ViewerWindow::PassKey(QKeyEvent& event, bool down) {
   } else {
     Form_KeyUp(code, shift);
   }
-  if (known && code == 0) return true;
+  if (known && code == 0) return !focusWidget()->inherits("QComboBox");  // a letter is typed all the same
   if (!down || plotHadFocus || !plot_->hasFocus()) return false;
   redirecting_ = true;
   QApplication::sendEvent(plot_, &event);

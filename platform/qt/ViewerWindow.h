@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <string>
 
+#include "CommandButton.h"
 #include "QtHost.h"
 
 class QLabel;
@@ -48,6 +49,8 @@ class ViewerWindow : public QMainWindow {
   QWidget* canvas_ = nullptr;
   PlotWidget* plot_ = nullptr;
   QWidget* strip_ = nullptr;
+  QLabel* prompt_ = nullptr;
+  CommandButton* demonstration_ = nullptr;
   QPlainTextEdit* log_ = nullptr;
   QTimer updateTimer_;
   QElapsedTimer runTime_;

@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "Faults.h"
+#include "StagedFile.h"
 #include "UserDirectories.h"
 
 namespace quorb {
@@ -150,6 +151,10 @@ std::unique_ptr<MappedFile> MapDescriptor(int descriptor, int& errorNumber) {
 }
 
 }  // namespace
+
+std::unique_ptr<OutputFile> SystemFiles::Create(const std::string& path) {
+  return CreateStagedFile(path);
+}
 
 std::string SystemFiles::RealLocation(const std::string& path) const {
   const std::filesystem::path whole = path;

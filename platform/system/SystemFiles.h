@@ -9,6 +9,8 @@ namespace quorb {
 class SystemFiles : public FileAccess {
  public:
   std::unique_ptr<MappedFile> Map(const std::string& path, int& errorNumber) override;
+  /// Until it is committed, the file stands beside its place under a name of its own.
+  std::unique_ptr<OutputFile> Create(const std::string& path) override;
   /// The user's data directory is $XDG_DATA_HOME/QuorbExcelPro.
   std::string RealLocation(const std::string& path) const override;
 };

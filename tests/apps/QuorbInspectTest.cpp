@@ -31,9 +31,10 @@ TEST_F(QuorbInspect, HelpIsAnsweredBeforeAnythingElse) {
   EXPECT_EQ(outcome.out,
             "Usage: quorb-inspect FILE [--rows ARRAY[:FIRST-LAST]] [--after-reset] [--log]\n"
             "       quorb-inspect --formula TEXT\n"
+            "       quorb-inspect --sheet [-o FILE]\n"
             "\n"
-            "Tells what the loader makes of a data file, or of a specification formula alone,\n"
-            "one name, a TAB and its value a line.\n"
+            "Tells what the loader makes of a data file, of a specification formula alone, or\n"
+            "of the spreadsheet that runs, one name, a TAB and its value a line.\n"
             "\n"
             "  --rows ARRAY[:FIRST-LAST]  print the rows of one array and nothing else:\n"
             "                             dataXYZT, dataEvents, dataEventLog, dataPenUpLabel,\n"
@@ -43,12 +44,17 @@ TEST_F(QuorbInspect, HelpIsAnsweredBeforeAnythingElse) {
             "  --formula TEXT             tell what the formula means, without a file: scale,\n"
             "                             title with and without its keywords, what these say,\n"
             "                             and the ranges as columns and rows\n"
+            "  --sheet                    tell what the running spreadsheet holds: application,\n"
+            "                             window, sheet, cell, formula, ranges and rows, or why\n"
+            "                             it does not plot; nothing in it is changed\n"
+            "  -o FILE                    write the ranges of the sheet into that data file\n"
             "  --help                     show this text\n"
             "  --version                  show the version\n"
             "\n"
             "Messages that the viewer would show go to standard error with their titles.\n"
             "Exit status: 0 rows were read, 1 the file gave none, 2 wrong call; of a formula:\n"
-            "0 it names a range that holds X, Y and Z, 1 it names none.\n");
+            "0 it names a range that holds X, Y and Z, 1 it names none; of a sheet: 0 it plots,\n"
+            "1 it does not.\n");
 }
 
 TEST_F(QuorbInspect, VersionIsAnswered) {

@@ -288,7 +288,9 @@ class NoRowsTest : public LoadFixture {
 TEST_F(NoRowsTest, NoDataAtAllOnTheFirstRunGivesTheBuiltInPlot) {
   LoadPlot();
   ExpectBuiltInPlot();
-  EXPECT_THAT(dialogs.boxes, SizeIs(1));
+  ASSERT_THAT(dialogs.boxes, SizeIs(2));
+  EXPECT_EQ(dialogs.boxes[0].title, "Excel not running!");
+  EXPECT_EQ(dialogs.boxes[1].title, "Demo default");
   EXPECT_EQ(LastLoad().ErrorNumber, 53);
   EXPECT_FALSE(LastLoad().headerRead);
   EXPECT_EQ(NoRowsReason(), "File not found");

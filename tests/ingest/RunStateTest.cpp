@@ -20,11 +20,13 @@ TEST(StartRunState, PutsTheStateOfALoadBack) {
 }
 
 TEST(StartRunState, PutsTheWatchersNotesBack) {
-  SeenFormula = SpecTypedText = "old";
-  FormulaArmed = SpecTyped = 1;
+  SeenFormula = SpecTypedText = WatchSheetName = WatchCaption = "old";
+  FormulaArmed = SpecTyped = NoWorkbookTold = WatchFaultTold = MaybeExtError = LoadsStarted = 1;
+  LastAnswer = BoxAnswer::ok;
   StartRunState();
-  EXPECT_EQ(SeenFormula + SpecTypedText, "");
-  EXPECT_EQ(FormulaArmed + SpecTyped, 0);
+  EXPECT_EQ(SeenFormula + SpecTypedText + WatchSheetName + WatchCaption, "");
+  EXPECT_EQ(FormulaArmed + SpecTyped + NoWorkbookTold + WatchFaultTold + MaybeExtError + LoadsStarted, 0);
+  EXPECT_EQ(LastAnswer, BoxAnswer::none);
 }
 
 TEST(StartRunState, PutsTheFlagsOfThePlotBack) {

@@ -282,5 +282,106 @@ TEST_F(LoadRealFileTest, AFileThatIsDeletedWhileItIsMappedIsLoadedWhole) {
   EXPECT_EQ(LastLoad().rows, 1);
 }
 
+// ---- writing ----------------------------------------------------------------------------------------------
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::size_t EntriesOf(const std::string& directory) {
+  const std::filesystem::directory_iterator entries(directory);
+  return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+}
+
+TEST_F(SystemFilesTest, ACommittedFileTakesThePlaceOfTheOldOne) {
+  const std::string path = directory.File("new.qbv");
+  WriteFile(path, "old");
+  auto file = systemFiles.Create(path);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Write("one\r\n"));
+  EXPECT_TRUE(file->Write("two"));
+  EXPECT_EQ(BytesOf(path), "old");
+  EXPECT_TRUE(file->Commit());
+  EXPECT_EQ(BytesOf(path), "one\r\ntwo");
+  EXPECT_FALSE(file->Commit()) << "once";
+  file.reset();
+  EXPECT_EQ(BytesOf(path), "one\r\ntwo");
+}
+
+TEST_F(SystemFilesTest, AFileThatIsNotCommittedLeavesNoTrace) {
+  const std::string path = directory.File("new.qbv");
+  WriteFile(path, "old");
+  const std::size_t before = EntriesOf(directory.File(""));
+  auto file = systemFiles.Create(path);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Write("one"));
+  EXPECT_EQ(EntriesOf(directory.File("")), before + 1);
+  file.reset();
+  EXPECT_EQ(BytesOf(path), "old");
+  EXPECT_EQ(EntriesOf(directory.File("")), before);
+}
+
+TEST_F(SystemFilesTest, AFileInTheUsersDirectoryMakesThatDirectory) {
+  const std::string path = directory.File("deep/er/new.qbv");
+  auto file = systemFiles.Create(path);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Commit());
+  EXPECT_EQ(BytesOf(path), "");
+}
+
+TEST_F(SystemFilesTest, ASymbolicLinkStaysAndItsFileIsReplaced) {
+  std::filesystem::create_directory(directory.File("real"));
+  WriteFile(directory.File("real/data.qbv"), "old");
+  const std::string link = directory.File("link.qbv");
+  std::filesystem::create_symlink("real/data.qbv", link);
+  auto file = systemFiles.Create(link);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Write("new"));
+  EXPECT_TRUE(file->Commit());
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(BytesOf(directory.File("real/data.qbv")), "new");
+  EXPECT_EQ(EntriesOf(directory.File("real")), 1U);
+}
+
+TEST_F(SystemFilesTest, TheNewFileHasTheModeOfTheOldOne) {
+  const std::string path = directory.File("new.qbv");
+  WriteFile(path, "old");
+  ASSERT_EQ(chmod(path.c_str(), 0604), 0);
+  auto file = systemFiles.Create(path);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Commit());
+  struct stat status = {};
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0604U);
+}
+
+TEST_F(SystemFilesTest, PartsOfProcessesThatAreGoneAreRemoved) {
+  const std::string path = directory.File("new.qbv");
+  const std::string gone = path + ".2147483647.part";
+  const std::string living = path + "." + std::to_string(getppid()) + ".part";
+  const std::string other = directory.File("other.qbv.2147483647.part");
+  const std::string noNumber = path + ".7x.part";
+  for (const std::string& part : {gone, living, other, noNumber})
+    WriteFile(part, "x");
+  systemFiles.Create(path).reset();
+  EXPECT_FALSE(std::filesystem::exists(gone));
+  EXPECT_TRUE(std::filesystem::exists(living));
+  EXPECT_TRUE(std::filesystem::exists(other));
+  EXPECT_TRUE(std::filesystem::exists(noNumber));
+}
+
+TEST_F(SystemFilesTest, WhatCannotBeWrittenOrNamedIsAFailure) {
+  EXPECT_EQ(systemFiles.Create("/proc/none/new.qbv"), nullptr);
+  const std::string path = directory.File("taken");
+  std::filesystem::create_directory(path);
+  WriteFile(path + "/inside", "x");
+  auto file = systemFiles.Create(path);
+  ASSERT_NE(file, nullptr);
+  EXPECT_TRUE(file->Write("one"));
+  EXPECT_FALSE(file->Commit());
+  EXPECT_TRUE(std::filesystem::is_directory(path));
+}
+
 }  // namespace
 }  // namespace quorb

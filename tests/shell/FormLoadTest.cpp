@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "SpecificationHistory.h"
 #include "WindowFixture.h"
 
 namespace quorb {
@@ -25,14 +26,18 @@ class FormLoadTest : public WindowFixture {
     ClearCalls();
   }
 
-  /// The calls of the load sequence, with the slots that are read one behind another as one line.
+  /// The calls of the load sequence, with the slots that are read one behind another as one line, and the
+  /// history, too.
   std::vector<std::string> Sequence() const {
     std::vector<std::string> calls;
-    int slot = 0;
+    int slot = 0, entry = 0;
     for (const std::string& call : RecordedCalls()) {
       if (slot <= 100 && call == "Settings.Read(\"Use\", \"" + SlotKey(slot) + "\")") {
         ++slot;
         if (slot == 101) calls.push_back("the slots 0 to 100 are read");
+      } else if (entry <= 20 && call == "Settings.Read(\"Use\", \"" + HistoryKey(entry) + "\")") {
+        ++entry;
+        if (entry == 21) calls.push_back("the history 0 to 20 is read");
       } else {
         calls.push_back(call);
       }
@@ -73,6 +78,7 @@ TEST_F(FormLoadTest, TheStepsRunInTheirOrder) {
                           "Settings.Write(\"Use\", \"Setstr01.00\", \"earthjpg.jpg\")",
                           "Settings.Write(\"Use\", \"Setstr13.00\", \"0\")",  // the slots are shown
                           "MessageBox(\"Warning\")",                          //
+                          "the history 0 to 20 is read",                      //
                           "SetMousePointer(201, \"\")",                       //
                           "Animation.SetEnabled(true)",                       //
                           "Animation.Update()",                               //

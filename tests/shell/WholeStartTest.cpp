@@ -168,8 +168,9 @@ TEST_F(WholeStartTest, AShortNameStartsAsIfNoFileHadBeenGiven) {
   files.contents["/d.qbv"] = files.contents["/data/orbit.qbv"];
   Start("/d.qbv");
   EXPECT_EQ(LastLoad().rows, 0);
-  ASSERT_EQ(dialogs.boxes.size(), 1U);
-  EXPECT_EQ(dialogs.boxes[0].title, "Demo default");
+  ASSERT_EQ(dialogs.boxes.size(), 2U);
+  EXPECT_EQ(dialogs.boxes[0].title, "Excel not running!");
+  EXPECT_EQ(dialogs.boxes[1].title, "Demo default");
   EXPECT_TRUE(frmMain->mnuFile.visible);
 }
 

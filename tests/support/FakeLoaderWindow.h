@@ -37,6 +37,10 @@ class FakeLoaderWindow : public LoaderWindow {
   double satelliteSize = -1;
   std::string satelliteShape;
   int registrations = 0;
+  std::string textTempo;
+  std::vector<double> pauses;
+  /// Runs in every pause; a pause takes no time.
+  std::function<void()> onPause;
 
   /// "Command2_Click", "Form_Resize" and "CameraSet isonew" in the order in which they were called.
   std::vector<std::string> calls;
@@ -62,6 +66,15 @@ class FakeLoaderWindow : public LoaderWindow {
   void SetSatelliteShape(const std::string& name) override { satelliteShape = name; }
   void RegisterFileType() override { ++registrations; }
   void SetSpeedBar(int value) override { speed = value; }
+  void SetTextTempo(const std::string& text) override { textTempo = text; }
+  void SetFocus(LoaderControl control) override {
+    Note(control == LoaderControl::Combo1 ? "focus Combo1" : "focus Command6");
+  }
+  void Combo1_GotFocusRoutine() override { Note("Combo1_GotFocusRoutine"); }
+  void Pause(double seconds) override {
+    pauses.push_back(seconds);
+    if (onPause) onPause();
+  }
   void CameraSet(const std::string& mode, double value, double flag) override {
     Note("CameraSet " + mode + " " + std::to_string(static_cast<int>(value)) + " " +
          std::to_string(static_cast<int>(flag)));

@@ -1,0 +1,204 @@
+#include <algorithm>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/container/XNamed.hpp>
+#include <com/sun/star/frame/XLoadable.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/sheet/ComplexReference.hpp>
+#include <com/sun/star/sheet/FormulaToken.hpp>
+#include <com/sun/star/sheet/ReferenceFlags.hpp>
+#include <com/sun/star/sheet/SingleReference.hpp>
+#include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangeData.hpp>
+#include <com/sun/star/sheet/XCellRangeReferrer.hpp>
+#include <com/sun/star/sheet/XFormulaParser.hpp>
+#include <com/sun/star/sheet/XNamedRange.hpp>
+#include <com/sun/star/sheet/XNamedRanges.hpp>
+#include <com/sun/star/sheet/XSheetCellCursor.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/sheet/XUsedAreaCursor.hpp>
+#include <com/sun/star/util/XCloseable.hpp>
+#include <stdexcept>
+#include <vector>
+
+#include "UnoSession.h"
+
+namespace quorb {
+
+using css::table::CellRangeAddress;
+using css::uno::Reference;
+using css::uno::UNO_QUERY;
+using css::uno::UNO_QUERY_THROW;
+
+namespace {
+
+constexpr int kMostCells = 200000;
+constexpr int kMostNames = 200;
+
+using Sheets = std::vector<Reference<css::sheet::XSpreadsheet>>;
+
+Sheets SheetsOf(const Reference<css::uno::XInterface>& document) {
+  const Reference<css::sheet::XSpreadsheetDocument> book(document, UNO_QUERY_THROW);
+  const Reference<css::container::XIndexAccess> access(book->getSheets(), UNO_QUERY_THROW);
+  Sheets sheets;
+  for (sal_Int32 i = 0; i < access->getCount(); ++i)
+    sheets.emplace_back(access->getByIndex(i), UNO_QUERY_THROW);
+  return sheets;
+}
+
+CellRangeAddress AddressOf(const Reference<css::uno::XInterface>& cells) {
+  return Reference<css::sheet::XCellRangeAddressable>(cells, UNO_QUERY_THROW)->getRangeAddress();
+}
+
+rtl::OUString NameOf(const Reference<css::uno::XInterface>& named) {
+  return Reference<css::container::XNamed>(named, UNO_QUERY_THROW)->getName();
+}
+
+// One end of a reference: an absolute part stands for itself, a relative one counts from the formula's cell.
+sal_Int32 Resolved(sal_Int32 flags, sal_Int32 relativeFlag, sal_Int32 absolute, sal_Int32 relative,
+                   sal_Int32 base) {
+  return (flags & relativeFlag) != 0 ? base + relative : absolute;
+}
+
+css::table::CellAddress CellOf(const css::sheet::SingleReference& reference,
+                               const css::table::CellAddress& base) {
+  namespace ReferenceFlags = css::sheet::ReferenceFlags;
+  css::table::CellAddress cell;
+  cell.Sheet = static_cast<sal_Int16>(Resolved(reference.Flags, ReferenceFlags::SHEET_RELATIVE,
+                                               reference.Sheet, reference.RelativeSheet, base.Sheet));
+  cell.Column = Resolved(reference.Flags, ReferenceFlags::COLUMN_RELATIVE, reference.Column,
+                         reference.RelativeColumn, base.Column);
+  cell.Row =
+      Resolved(reference.Flags, ReferenceFlags::ROW_RELATIVE, reference.Row, reference.RelativeRow, base.Row);
+  return cell;
+}
+
+// The cells that a formula names.
+std::vector<CellRangeAddress> CellsNamed(const css::uno::Sequence<css::sheet::FormulaToken>& tokens,
+                                         const css::table::CellAddress& base) {
+  std::vector<CellRangeAddress> cells;
+  const auto add = [&](const css::sheet::SingleReference& from, const css::sheet::SingleReference& to) {
+    const auto first = CellOf(from, base);
+    const auto last = CellOf(to, base);
+    cells.emplace_back(first.Sheet, first.Column, first.Row, last.Column, last.Row);
+  };
+  for (const css::sheet::FormulaToken& token : tokens) {
+    if (css::sheet::ComplexReference range; token.Data >>= range)
+      add(range.Reference1, range.Reference2);
+    else if (css::sheet::SingleReference cell; token.Data >>= cell)
+      add(cell, cell);
+  }
+  return cells;
+}
+
+// Closes a document that has no window when it goes out of scope.
+class AsideDocument {
+ public:
+  explicit AsideDocument(const Reference<css::uno::XInterface>& document)
+      : document_(document, UNO_QUERY_THROW) {
+    Reference<css::frame::XLoadable>(document, UNO_QUERY_THROW)->initNew();
+  }
+  AsideDocument(const AsideDocument&) = delete;
+  AsideDocument& operator=(const AsideDocument&) = delete;
+  ~AsideDocument() {
+    try {
+      Reference<css::util::XCloseable>(document_, UNO_QUERY_THROW)->close(true);
+    } catch (const css::uno::Exception&) {
+      // The office is gone, and the document with it.
+    }
+  }
+  const Reference<css::frame::XModel>& Model() const { return document_; }
+
+ private:
+  Reference<css::frame::XModel> document_;
+};
+
+void CopyNames(const Reference<css::uno::XInterface>& from, const Reference<css::uno::XInterface>& to,
+               const std::function<void(const CellRangeAddress&)>& copyCells) {
+  Reference<css::sheet::XNamedRanges> names, copies;
+  Reference<css::beans::XPropertySet>(from, UNO_QUERY_THROW)->getPropertyValue("NamedRanges") >>= names;
+  Reference<css::beans::XPropertySet>(to, UNO_QUERY_THROW)->getPropertyValue("NamedRanges") >>= copies;
+  const auto all = names->getElementNames();
+  for (sal_Int32 i = 0; i < std::min<sal_Int32>(all.getLength(), kMostNames); ++i) {
+    const Reference<css::sheet::XNamedRange> name(names->getByName(all[i]), UNO_QUERY_THROW);
+    copies->addNewByName(all[i], name->getContent(), name->getReferencePosition(), name->getType());
+    const Reference<css::sheet::XCellRangeReferrer> referrer(name, UNO_QUERY);
+    if (referrer.is() && referrer->getReferredCells().is())
+      copyCells(AddressOf(referrer->getReferredCells()));
+  }
+}
+
+}  // namespace
+
+// Gives the document aside the sheets, the names and the cells that the formula can name.
+void UnoSession::CopyForFormula(const Book& book, const Reference<css::frame::XModel>& aside, int row,
+                                int column, const std::string& formula) {
+  const Reference<css::lang::XMultiServiceFactory> services(book.model, UNO_QUERY_THROW);
+  const Reference<css::sheet::XFormulaParser> parser(
+      services->createInstance("com.sun.star.sheet.FormulaParser"), UNO_QUERY_THROW);
+  Reference<css::beans::XPropertySet>(parser, UNO_QUERY_THROW)
+      ->setPropertyValue("CompileEnglish", css::uno::Any(true));
+  const css::table::CellAddress base(AddressOf(book.sheet).Sheet, column - 1, row - 1);
+  const auto tokens =
+      parser->parseFormula(Utf16(formula.substr(formula.compare(0, 1, "=") == 0 ? 1 : 0)), base);
+
+  const Sheets from = SheetsOf(book.model);
+  const auto sheetsAside = Reference<css::sheet::XSpreadsheetDocument>(aside, UNO_QUERY_THROW)->getSheets();
+  Sheets to = SheetsOf(aside);
+  for (std::size_t i = 0; i < from.size(); ++i) {
+    if (i < to.size())
+      Reference<css::container::XNamed>(to[i], UNO_QUERY_THROW)->setName(NameOf(from[i]));
+    else
+      sheetsAside->insertNewByName(NameOf(from[i]), static_cast<sal_Int16>(i));
+  }
+  to = SheetsOf(aside);
+
+  int copied = 0;
+  const auto copyCells = [&](CellRangeAddress cells) {
+    const auto sheet = static_cast<std::size_t>(cells.Sheet);
+    if (cells.Sheet < 0 || sheet >= from.size() || cells.StartRow < 0 || cells.StartColumn < 0) return;
+    const Reference<css::sheet::XUsedAreaCursor> cursor(from[sheet]->createCursor(), UNO_QUERY_THROW);
+    cursor->gotoEndOfUsedArea(false);
+    const CellRangeAddress used = AddressOf(cursor);
+    cells.EndRow = std::min(cells.EndRow, used.EndRow);
+    cells.EndColumn = std::min(cells.EndColumn, used.EndColumn);
+    if (cells.EndRow < cells.StartRow || cells.EndColumn < cells.StartColumn) return;
+    copied += (cells.EndRow - cells.StartRow + 1) * (cells.EndColumn - cells.StartColumn + 1);
+    if (copied > kMostCells) throw std::length_error("The formula names too many cells.");
+    const auto range = [&](const Reference<css::sheet::XSpreadsheet>& on) {
+      return Reference<css::sheet::XCellRangeData>(
+          on->getCellRangeByPosition(cells.StartColumn, cells.StartRow, cells.EndColumn, cells.EndRow),
+          UNO_QUERY_THROW);
+    };
+    range(to[sheet])->setDataArray(range(from[sheet])->getDataArray());
+    Beat();
+  };
+  for (const CellRangeAddress& cells : CellsNamed(tokens, base))
+    copyCells(cells);
+  CopyNames(book.model, aside, copyCells);
+}
+
+CellValue UnoSession::EvaluateIn(const Book& book, const Reference<css::frame::XModel>& aside, int row,
+                                 int column, const std::string& formula) {
+  CopyForFormula(book, aside, row, column, formula);
+  const auto sheet = SheetsOf(aside)[static_cast<std::size_t>(AddressOf(book.sheet).Sheet)];
+  sheet->getCellByPosition(column - 1, row - 1)->setFormula(Utf16(formula));
+  return ValueOf(sheet, row, column);
+}
+
+SheetFault UnoSession::Evaluate(Workbook workbook, int row, int column, const std::string& formula,
+                                CellValue& value) {
+  return Guarded([&]() -> SheetFault {
+    const Book* book = Find(workbook);
+    if (book == nullptr) return {kNothingThere, "No such workbook."};
+    try {
+      const AsideDocument aside(Service("com.sun.star.sheet.SpreadsheetDocument"));
+      value = EvaluateIn(*book, aside.Model(), row, column, formula);
+      return {};
+    } catch (const std::length_error& error) {
+      return {kRefused, error.what()};
+    }
+  });
+}
+
+}  // namespace quorb

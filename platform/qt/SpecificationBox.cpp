@@ -1,0 +1,73 @@
+#include "SpecificationBox.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "KeyCodes.h"
+
+namespace quorb {
+
+namespace {
+
+/// Long enough for any formula of a worksheet.
+constexpr int kLongestFormula = 8192;
+const char* const kFocusedColours = "QComboBox { background-color: rgb(128, 0, 255); color: white; }";
+const char* const kPaleColours = "QComboBox { background-color: rgb(192, 255, 255); color: black; }";
+
+}  // namespace
+
+SpecificationBox::SpecificationBox(QWidget* parent) : QComboBox(parent) {
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  lineEdit()->setMaxLength(kLongestFormula);
+  lineEdit()->installEventFilter(this);
+  ShowColours(false);
+}
+
+bool SpecificationBox::HoldsEntries(const QStringList& entries) const {
+  if (entries.size() != count()) return false;
+  for (int i = 0; i < count(); ++i) {
+    if (itemText(i) != entries[i]) return false;
+  }
+  return true;
+}
+
+void SpecificationBox::Enter() {
+  textEntered_ = currentText();
+  if (entered) entered();
+}
+
+void SpecificationBox::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter) textEntered_ = currentText();
+  if (keyPressed) keyPressed(KeyCodeOf(event->key()));
+  if (!isEnter) QComboBox::keyPressEvent(event);
+}
+
+void SpecificationBox::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  ShowColours(true);
+  textEntered_ = currentText();
+  // The list that drops down gives the focus back: its entries stay as they are then.
+  if (event->reason() != Qt::PopupFocusReason && gotFocus) gotFocus();
+}
+
+void SpecificationBox::focusOutEvent(QFocusEvent* event) {
+  QComboBox::focusOutEvent(event);
+  if (event->reason() == Qt::PopupFocusReason) return;
+  ShowColours(false);
+  if (currentText() != textEntered_) Enter();
+}
+
+bool SpecificationBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonDblClick) Enter();
+  return QComboBox::eventFilter(watched, event);
+}
+
+void SpecificationBox::ShowColours(bool focused) {
+  setStyleSheet(focused ? kFocusedColours : kPaleColours);
+}
+
+}  // namespace quorb

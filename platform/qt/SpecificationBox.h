@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+
+namespace quorb {
+
+/// An editable list in which a text is entered by Enter, by a double click, or by leaving it with a changed
+/// text. Purple while it has the focus, pale without.
+class SpecificationBox : public QComboBox {
+ public:
+  explicit SpecificationBox(QWidget* parent);
+
+  /// True when the list has these entries and no other.
+  bool HoldsEntries(const QStringList& entries) const;
+
+  /// The text as it stands is entered.
+  std::function<void()> entered;
+  /// A key goes down, with the number of the key; Enter is among them.
+  std::function<void(int key)> keyPressed;
+  std::function<void()> gotFocus;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Enter();
+  void ShowColours(bool focused);
+
+  QString textEntered_;
+};
+
+}  // namespace quorb

@@ -1,0 +1,216 @@
+#include <gmock/gmock.h>
+
+#include "CalcFixture.h"
+
+namespace quorb {
+namespace {
+
+using CalcWorkbooks = CalcFixture;
+
+TEST_F(CalcWorkbooks, WithoutAnOfficeThereIsNothingToAttachTo) {
+  CalcLinkOptions options = office_->Options();
+  options.socketDirectories = {"/nonexistent"};
+  CalcLink link(options);
+  EXPECT_EQ(link.GetRunningObject().number, 429);
+  Workbook book = kNoWorkbook;
+  EXPECT_EQ(link.ActiveWorkbook(book).number, 91);
+}
+
+TEST_F(CalcWorkbooks, AnOfficeWithoutDocumentsHasNoWorkbook) {
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(link.GetRunningObject().Good());
+  Workbook book = 5;
+  EXPECT_TRUE(link.ActiveWorkbook(book).Good());
+  EXPECT_EQ(book, kNoWorkbook);
+  std::string text;
+  EXPECT_EQ(link.ActiveWorkbookName(text).number, 91);
+  EXPECT_EQ(link.ActiveSheetName(book, text).number, 91);
+  FindArguments find;
+  find.What = "MAX";
+  EXPECT_EQ(link.ApplicationFindActivate(find).number, 1004);
+}
+
+TEST_F(CalcWorkbooks, AnOfficeWithTextDocumentsOnlyCountsAsNone) {
+  OpenText();
+  CalcLink link(office_->Options());
+  EXPECT_EQ(link.GetRunningObject().number, 429);
+  EXPECT_EQ(link.GetRunningObject().number, 429);
+}
+
+TEST_F(CalcWorkbooks, ASheetThatIsOpenedLaterIsFoundByTheSameLink) {
+  const int text = OpenText();
+  CalcLink link(office_->Options());
+  EXPECT_EQ(link.GetRunningObject().number, 429);
+  OpenSheet();
+  EXPECT_NE(Attach(link), kNoWorkbook);
+  (void)text;
+}
+
+TEST_F(CalcWorkbooks, TellsNameVersionSheetAndCell) {
+  const int document = OpenSheet();
+  ASSERT_TRUE(User().AddSheet(document, "Été").Good());
+  Type(document, 7, 3, "12.5", 1);
+  ASSERT_TRUE(User().ShowSheet(document, 1).Good());
+  ASSERT_TRUE(User().Select(document, 1, "C7").Good());
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+
+  std::string text;
+  ASSERT_TRUE(link.Name(text).Good());
+  EXPECT_THAT(text, testing::StartsWith("LibreOffice Calc "));
+  ASSERT_TRUE(link.Version(text).Good());
+  EXPECT_EQ(text, "12.0");
+  ASSERT_TRUE(link.ActiveSheetName(book, text).Good());
+  EXPECT_EQ(text, "Été");
+  EXPECT_THAT(Caption(link, book), testing::MatchesRegex("Untitled [0-9]+"));
+  int number = 0;
+  ASSERT_TRUE(link.WorkbookWindowsCount(book, number).Good());
+  EXPECT_EQ(number, 1);
+  ASSERT_TRUE(link.ActiveCellRow(book, number).Good());
+  EXPECT_EQ(number, 7);
+  ASSERT_TRUE(link.ActiveCellColumn(book, number).Good());
+  EXPECT_EQ(number, 3);
+  EXPECT_EQ(Formula(link, book), "12.5");
+}
+
+TEST_F(CalcWorkbooks, TheCursorOfASelectionOfSeveralCellsIsKnown) {
+  const int document = OpenSheet();
+  Type(document, 2, 2, "inner");
+  ASSERT_TRUE(User().Select(document, 0, "B2:D9").Good());
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  EXPECT_EQ(Formula(link, book), "inner");
+}
+
+TEST_F(CalcWorkbooks, OfTwoWorkbooksTheOneInFrontIsActive) {
+  const int first = OpenSheet();
+  const int second = OpenSheet();
+  Type(first, 1, 1, "first");
+  Type(second, 1, 1, "second");
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(User().ToFront(first).Good());
+  Workbook book = Attach(link);
+  EXPECT_EQ(Formula(link, book), "first");
+  const std::string caption = Caption(link, book);
+  ASSERT_TRUE(User().ToFront(second).Good());
+  EXPECT_EQ(Formula(link, book), "first") << "a handle stands for one workbook until the release";
+  book = Attach(link);
+  EXPECT_EQ(Formula(link, book), "second");
+
+  ASSERT_TRUE(link.WorkbooksActivate(caption).Good());
+  ASSERT_TRUE(link.ActiveWorkbook(book).Good());
+  EXPECT_EQ(Formula(link, book), "first");
+  EXPECT_EQ(link.WorkbooksActivate("nobody.ods").number, 9);
+}
+
+TEST_F(CalcWorkbooks, ATextDocumentInFrontHidesTheWorkbookNot) {
+  const int sheet = OpenSheet();
+  Type(sheet, 1, 1, "here");
+  const int text = OpenText();
+  ASSERT_TRUE(User().ToFront(text).Good());
+  const UserState before = StateOf(sheet);
+  CalcLink link(office_->Options());
+  EXPECT_EQ(Formula(link, Attach(link)), "here");
+  EXPECT_EQ(StateOf(sheet), before);
+}
+
+TEST_F(CalcWorkbooks, BehindATextDocumentTheWorkbookThatWasInFrontLastIsActive) {
+  const int first = OpenSheet();
+  Type(first, 1, 1, "first");
+  OpenSheet();
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(User().ToFront(first).Good());
+  EXPECT_EQ(Formula(link, Attach(link)), "first");
+  ASSERT_TRUE(User().ToFront(OpenText()).Good());
+  EXPECT_EQ(Formula(link, Attach(link)), "first");
+}
+
+TEST_F(CalcWorkbooks, TheScratchWorkbookIsFirstAmongTheWindows) {
+  OpenSheet();
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  int before = 0, after = 0;
+  ASSERT_TRUE(link.WindowsCount(before).Good());
+  ASSERT_TRUE(link.WorkbooksAdd().Good());
+  ASSERT_TRUE(link.WindowsCount(after).Good());
+  EXPECT_EQ(after, before + 1);
+  std::string scratch, behind;
+  ASSERT_TRUE(link.WindowCaption(1, scratch).Good());
+  ASSERT_TRUE(link.WindowCaption(2, behind).Good());
+  EXPECT_EQ(behind, Caption(link, book));
+  EXPECT_NE(scratch, behind);
+  EXPECT_EQ(link.WindowCaption(after + 1, scratch).number, 9);
+  EXPECT_TRUE(link.ActiveWindowClose(false, false).Good());
+  EXPECT_EQ(link.ActiveWindowClose(false, false).number, 91);
+}
+
+TEST_F(CalcWorkbooks, NothingWritesToTheUsersWorkbook) {
+  const int document = OpenSheet();
+  Type(document, 1, 1, "mine");
+  const UserState before = StateOf(document);
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  ASSERT_TRUE(link.WorkbooksAdd().Good());
+  ASSERT_TRUE(link.WorkbooksActivate(Caption(link, book)).Good());
+  ASSERT_TRUE(link.RangeCopy("A1").Good());
+  EXPECT_EQ(link.RangePasteSpecial("B1", {}).number, 1004);
+  EXPECT_EQ(link.RangeSelect("B1").number, 1004);
+  EXPECT_EQ(link.SetActiveCell("yours").number, 1004);
+  EXPECT_EQ(link.SetActiveCellFormula(book, "=1").number, 1004);
+  EXPECT_EQ(link.ColumnsSelect("A:B").number, 1004);
+  EXPECT_EQ(link.SelectionNumberFormat("0.0").number, 1004);
+  EXPECT_EQ(link.SelectionColumnWidth(3).number, 1004);
+  EXPECT_EQ(StateOf(document), before);
+}
+
+TEST_F(CalcWorkbooks, QuitIsRefusedWhileADocumentIsOpen) {
+  OpenSheet();
+  CalcLink link(office_->Options());
+  Attach(link);
+  EXPECT_EQ(link.Quit().number, 1004);
+  EXPECT_TRUE(office_->Runs());
+}
+
+TEST_F(CalcWorkbooks, AfterTheReleaseNothingIsThere) {
+  OpenSheet();
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  link.ReleaseObject();
+  std::string text;
+  EXPECT_EQ(link.Name(text).number, 91);
+  EXPECT_EQ(link.ActiveSheetName(book, text).number, 91);
+  EXPECT_EQ(link.ActiveCellFormula(book, text).number, 91);
+  EXPECT_EQ(link.RangeCopy("A1").number, 91);
+  TextSink sink;
+  EXPECT_EQ(link.BlockText("A1:B2", sink).number, 91);
+}
+
+// The median of many polls: the machine may be busy with other tests.
+TEST_F(CalcWorkbooks, APollTakesLessThanFiveMilliseconds) {
+  const int document = OpenSheet();
+  Type(document, 1, 1, "=MAX(A2:C60)");
+  CalcLink link(office_->Options());
+  Attach(link);
+  std::vector<double> times;
+  for (int i = 0; i < 41; ++i) {
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(link.GetRunningObject().Good());
+    std::string text;
+    Workbook book = kNoWorkbook;
+    ASSERT_TRUE(link.Name(text).Good());
+    ASSERT_TRUE(link.ActiveWorkbook(book).Good());
+    ASSERT_TRUE(link.ActiveWorkbookName(text).Good());
+    ASSERT_TRUE(link.WorkbookWindowCaption(book, 1, text).Good());
+    ASSERT_TRUE(link.ActiveSheetName(book, text).Good());
+    ASSERT_TRUE(link.ActiveCellFormula(book, text).Good());
+    link.ReleaseObject();
+    times.push_back(
+        std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count());
+  }
+  std::nth_element(times.begin(), times.begin() + 20, times.end());
+  RecordProperty("medianMilliseconds", std::to_string(times[20]));
+  EXPECT_LT(times[20], 5.0);
+}
+
+}  // namespace
+}  // namespace quorb

@@ -164,6 +164,11 @@ bool FillScratch(SheetSession& session, const PlotRanges& ranges, const Specific
          session.IsSound();
 }
 
+std::string WhyNotWhole(const SheetSession& session) {
+  return session.ErrorNumber == kFaultNone ? "another sheet came to the front"
+                                           : FaultText(session.ErrorNumber);
+}
+
 // ---- from the scratch workbook to the file ----------------------------------------------------------------
 
 class FileSink : public BlockTextSink {
@@ -187,18 +192,18 @@ void WriteTable(SheetSession& session, int lastRow) {
   if (session.ended) return;
   const std::string cannotBeWritten = session.outputName + " cannot be written";
   session.output = CurrentFileAccess().Create(session.outputName);
-  if (session.output == nullptr) return session.window.AppendLog(cannotBeWritten);
+  if (session.output == nullptr) return session.GiveUpFile(cannotBeWritten);
   FileSink sink(session);
   const bool isHad = session.Done(session.link.BlockText("A1:" + CellName(lastRow, kColumns), sink));
   if (session.output == nullptr) return;
   if (sink.Failed()) {
-    session.window.AppendLog(cannotBeWritten + " to its end: the disk may be full");
+    session.GiveUpFile(cannotBeWritten + " to its end: the disk may be full");
   } else if (!isHad) {
-    session.window.AppendLog("The spreadsheet did not give the text of the table: " +
-                             FaultText(session.ErrorNumber));
+    session.GiveUpFile("The spreadsheet did not give the text of the table: " +
+                       FaultText(session.ErrorNumber));
   } else {
     session.fileWritten = session.output->Commit();
-    if (!session.fileWritten) session.window.AppendLog(cannotBeWritten);
+    if (!session.fileWritten) session.GiveUpFile(cannotBeWritten);
   }
   session.output.reset();
 }
@@ -233,8 +238,8 @@ void ExportToFile(SheetSession& session, const PlotRanges& ranges, const Specifi
   session.StartStage();
   if (StandsForManyFiles(session.outputName)) return CurrentDialogs().EndProgram();
   if (!AddScratch(session)) {
-    return session.window.AppendLog("The spreadsheet made no workbook for the table: " +
-                                    FaultText(session.ErrorNumber));
+    return session.GiveUpFile("The spreadsheet made no workbook for the table: " +
+                              FaultText(session.ErrorNumber));
   }
   if (ScratchIsSource(session)) {
     ++session.AddRetries;
@@ -243,8 +248,8 @@ void ExportToFile(SheetSession& session, const PlotRanges& ranges, const Specifi
   if (FillScratch(session, ranges, specification)) {
     WriteTable(session, ranges.lastRow);
   } else {
-    session.window.AppendLog("The table was not poured whole, the data file of the load before stays: " +
-                             FaultText(session.ErrorNumber));
+    session.GiveUpFile("The table was not poured whole, the data file of the load before stays: " +
+                       WhyNotWhole(session));
   }
   session.window.Pause(kSettleTime);
   session.Done(session.link.ActiveWindowClose(false, false));

@@ -77,16 +77,17 @@ class BlockTextSink {
 /// is no range; 50290 and -2147418111 busy, as while a cell is edited or a dialog is open; -2147417848 the
 /// application went away; -2147023170 the remote call failed. Behind one of the last two every further call
 /// fails with that same number, never with 91, until the application is released or attached anew. A failure
-/// of the clipboard holds "Clipboard" in its description. An
-/// application that gives no sign of life for 5 seconds is cut off: 50290, and at once 50290 for every
-/// further call for as long as the one that hangs has not come back.
+/// of the clipboard holds "Clipboard" in its description. An application that gives no sign of life for 5
+/// seconds is cut off: 50290, and at once 50290 for every further call for as long as the one that hangs has
+/// not come back.
 ///
 /// Time. All operations are called on one thread and come back when they are done; callbacks run on that
 /// thread. One that takes longer than a moment may let events through while it waits
 /// (`CurrentDialogs().PumpEvents()`). The operations of a poll (GetRunningObject, Name, ActiveWorkbook,
 /// ActiveWorkbookName, WorkbookWindowsCount, WorkbookWindowCaption, ActiveSheetName, ActiveCellFormula,
-/// Visible) never do, and touch nothing that the user could see. ReleaseObject may be called from within
-/// such an event, when the program ends: the operation that is under way then fails.
+/// Visible) never do so in a poll, only while a load is under way (`SpreadsheetInUse()`), and touch nothing
+/// that the user could see. ReleaseObject may be called from within such an event, when the program ends: the
+/// operation that is under way then fails.
 ///
 /// Active workbook, sheet and cell. From GetRunningObject on they follow the operations. A link may keep them
 /// for itself, without moving the user's windows or cursor, and does so where moving them would change

@@ -126,7 +126,8 @@ bool ReportPlot(SheetSession& session, const SpecificationText& specification, P
 void WriteFile(SheetSession& session, const PlotRanges& ranges, const SpecificationText& specification,
                SheetReport& result) {
   ExportToFile(session, ranges, specification);
-  if (!session.fileWritten) result.reason = "the data file " + session.outputName + " could not be written";
+  if (session.fileWritten) return;
+  result.reason = "the data file " + session.outputName + " was not written: " + session.whyNotWritten;
 }
 
 }  // namespace

@@ -108,6 +108,11 @@ void SheetSession::StartStage() {
   busySeen = false;
 }
 
+void SheetSession::GiveUpFile(const std::string& why) {
+  whyNotWritten = why;
+  window.AppendLog(why);
+}
+
 bool SheetSession::Done(const SheetFault& fault) {
   if (fault.Good()) return true;
   ErrorNumber = fault.number;

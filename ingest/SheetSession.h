@@ -50,7 +50,8 @@ struct SheetSession {
   bool asksUser = true;             ///< A specification that is missing is asked for.
   bool searched = false;            ///< The specification stands elsewhere than under the selection,
   bool selectionMoved = false;      ///< and the search has put another cell in its place.
-  bool fileWritten = false;         ///< The data file is the one of this session.
+  bool fileWritten = false;         ///< The data file is the one of this session,
+  std::string whyNotWritten;        ///< or else why not, as the log tells.
   int ErrorNumber = 0;              ///< The last failure; each stage begins with 0.
   bool busySeen = false;            ///< The spreadsheet was busy at some step of this stage.
   bool serverGone = false;          ///< The application went away since it was attached.
@@ -62,6 +63,9 @@ struct SheetSession {
 
   /// Forgets the failures of the stage before.
   void StartStage();
+
+  /// Gives up the data file of this session and logs why.
+  void GiveUpFile(const std::string& why);
 
   /// Looks at how a step ended: a failure is noted in `ErrorNumber`, 1004 in `NoSheet` as well, and one of
   /// the clipboard that has no number of its own here is shown. The load goes on in every case.

@@ -215,9 +215,11 @@ Outcome LookForChange(std::string& cellNow) {
 void Reload(const std::string& cellNow) {
   AskForReload();
   FlagOptionToPlot = 0;
+  const int thisLoad = LoadsStarted + 1;
   LoadPlot();
-  if (cellNow != LastFormula) LastFormula = cellNow;
   FormulaArmed = 0;
+  // Another load that began while this one waited knows better what the sheet holds.
+  if (LoadsStarted == thisLoad && cellNow != LastFormula) LastFormula = cellNow;
 }
 
 void LoadWithoutApplication() {

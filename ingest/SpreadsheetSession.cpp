@@ -23,21 +23,16 @@ bool OpensSpreadsheetNow() {
   return LastAnswer == BoxAnswer::ok;
 }
 
-void NoteMissingFile(const SheetFault& fault) {
-  if (fault.number == kFaultFileNotFound) MaybeExtError = 1;
-}
-
 // Asks the user at the first failure; the second one means that no application runs.
 int Attach(SheetSession& session) {
   SheetFault fault = session.link.GetRunningObject();
   if (fault.Good()) return kFaultNone;
-  NoteMissingFile(fault);
+  if (fault.number == kFaultFileNotFound) MaybeExtError = 1;
   session.window.ShowProgress(false);
   const bool tryAgain = OpensSpreadsheetNow();
   session.window.ShowProgress(true);
   if (!tryAgain) return kFaultNoApplication;
   fault = session.link.GetRunningObject();
-  NoteMissingFile(fault);
   return fault.Good() ? kFaultNone : kFaultNoApplication;
 }
 

@@ -3,9 +3,11 @@
 #include <string>
 #include <vector>
 
+#include "LoaderLink.h"
 #include "RunState.h"
 #include "Settings.h"
 #include "SettingsStore.h"
+#include "SheetSession.h"
 #include "SheetWatcher.h"
 #include "SpecificationHistory.h"
 #include "UserFlag.h"
@@ -57,6 +59,10 @@ void mnuOinteractive_Click() {
 }
 
 void mnuUpdateExcel_Click() {
+  if (SpreadsheetInUse()) {
+    LoaderLinkOfWindow().AppendLog("The sheet is being read: Update was not begun a second time");
+    return;
+  }
   MainWindow& window = *frmMain;
   if (window.mnuOptions.enabled) {
     window.mnuOptions.enabled = false;

@@ -1,5 +1,9 @@
 // The active sheet of a workbook, as the link to Calc sees it.
+#include <optional>
+#include <string_view>
+
 #include "CalcScratch.h"
+#include "ScaleText.h"
 
 namespace quorb {
 namespace {
@@ -11,6 +15,21 @@ std::string WithFunctionName(std::string formula, const std::string& from, const
        at = formula.find(call, at + to.size() + 1))
     formula.replace(at, from.size(), to);
   return formula;
+}
+
+// The text of a formula that is one literal in double quotes, its own quotes doubled.
+std::optional<std::string> PlainLiteral(std::string_view formula) {
+  if (formula.substr(0, 1) != "=") return {};
+  const std::size_t open = formula.find_first_not_of(' ', 1);
+  const std::size_t close = formula.find_last_not_of(' ');
+  if (open == std::string_view::npos || close <= open || formula[open] != '"' || formula[close] != '"')
+    return {};
+  std::string text;
+  for (std::size_t i = open + 1; i < close; ++i) {
+    if (formula[i] == '"' && (++i == close || formula[i] != '"')) return {};
+    text += formula[i];
+  }
+  return text;
 }
 
 }  // namespace
@@ -35,12 +54,12 @@ SheetFault CalcLink::ActiveCellFormula(Workbook workbook, std::string& formula) 
   Errand errand;
   errand.row = book->row;
   errand.column = book->column;
-  SheetFault fault = CellErrand(Asker::poll, workbook, errand, [](OfficeSession& session, Errand& asked) {
+  SheetFault fault = CellErrand(CurrentAsker(), workbook, errand, [](OfficeSession& session, Errand& asked) {
     return session.CellFormula(asked.workbook, asked.row, asked.column, asked.text);
   });
   if (!fault.Good()) return fault;
-  formula =
-      localKeyword_.empty() ? errand.text : WithFunctionName(errand.text, englishKeyword_, localKeyword_);
+  formula = WithReadableScale(
+      localKeyword_.empty() ? errand.text : WithFunctionName(errand.text, englishKeyword_, localKeyword_));
   return {};
 }
 
@@ -149,6 +168,10 @@ SheetFault CalcLink::EvaluateAside(Workbook workbook, const std::string& formula
                                    bool& offered) {
   offered = true;
   if (SheetFault held = HeldBook(workbook); !held.Good()) return held;
+  if (const auto literal = PlainLiteral(formula)) {
+    value = {*literal, {}};
+    return {};
+  }
   const BookView* book = Known(workbook);
   Errand errand;
   errand.row = book->row;

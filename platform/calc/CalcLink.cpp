@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "CalcScratch.h"
+#include "SheetSession.h"
 
 namespace quorb {
 namespace {
@@ -26,14 +27,22 @@ SheetFault CalcLink::Held() const {
   return held_ ? lost_ : FaultOf(kFaultNoObject);
 }
 
+// A load and a poll share some of the operations.
+Asker CalcLink::CurrentAsker() {
+  return SpreadsheetInUse() ? Asker::load : Asker::poll;
+}
+
 // Once the office is lost, everything fails as the question did that met it.
 SheetFault CalcLink::Ask(Asker asker, Errand& errand, const OfficeTalk::Question& question) {
   SheetFault fault = Held();
   if (!fault.Good()) return fault;
+  ++asking_;
   fault = talk_.Ask(asker, errand, question);
+  --asking_;
   // Events were let through: the application may have been released.
   if (!held_) return FaultOf(kFaultNoObject);
-  const bool cutOff = fault.number == kFaultBusy && asker == Asker::load;
+  // A view without cells is busy too, and is not cut off.
+  const bool cutOff = fault.number == kFaultBusy && talk_.IsCut();
   if (cutOff || fault.number == kDisconnected || fault.number == kCallFailed) lost_ = fault;
   return fault;
 }
@@ -51,11 +60,15 @@ SheetFault CalcLink::HeldScratch() const {
 
 SheetFault CalcLink::GetRunningObject() {
   ReleaseObject();
-  SheetFault fault = talk_.Attach();
+  const int releases = releases_;
+  ++asking_;
+  SheetFault fault = talk_.Attach(CurrentAsker());
+  --asking_;
   if (!fault.Good()) return fault;
+  if (releases != releases_) return FaultOf(kFaultNoObject);
   held_ = true;
   Errand errand;
-  fault = Ask(Asker::poll, errand, [](OfficeSession& session, Errand&) {
+  fault = Ask(CurrentAsker(), errand, [](OfficeSession& session, Errand&) {
     session.ForgetWorkbooks();
     return SheetFault();
   });
@@ -64,6 +77,9 @@ SheetFault CalcLink::GetRunningObject() {
 }
 
 void CalcLink::ReleaseObject() {
+  // From within an event: nobody waits for the answer any more.
+  if (asking_ > 0) talk_.Cut();
+  ++releases_;
   held_ = false;
   lost_ = SheetFault();
   books_.clear();
@@ -90,7 +106,7 @@ SheetFault CalcLink::Version(std::string& version) {
 SheetFault CalcLink::Name(std::string& name) {
   if (SheetFault held = Held(); !held.Good()) return held;
   Errand errand;
-  SheetFault fault = Ask(Asker::poll, errand,
+  SheetFault fault = Ask(CurrentAsker(), errand,
                          [](OfficeSession& session, Errand& asked) { return session.Name(asked.text); });
   if (fault.Good()) name = errand.text;
   return fault;
@@ -99,7 +115,7 @@ SheetFault CalcLink::Name(std::string& name) {
 SheetFault CalcLink::Visible(bool& visible) {
   if (SheetFault held = Held(); !held.Good()) return held;
   Errand errand;
-  SheetFault fault = Ask(Asker::poll, errand,
+  SheetFault fault = Ask(CurrentAsker(), errand,
                          [](OfficeSession& session, Errand& asked) { return session.Visible(asked.flag); });
   if (fault.Good()) visible = errand.flag;
   return fault;
@@ -131,7 +147,7 @@ SheetFault CalcLink::LookAtActive() {
   if (SheetFault held = Held(); !held.Good()) return held;
   if (lookedAtActive_) return {};
   Errand errand;
-  SheetFault fault = Ask(Asker::poll, errand,
+  SheetFault fault = Ask(CurrentAsker(), errand,
                          [](OfficeSession& session, Errand& asked) { return session.Look(asked.view); });
   if (!fault.Good()) return fault;
   lookedAtActive_ = true;

@@ -23,9 +23,9 @@ namespace quorb {
 /// that stays behind in the office is the acceptor that it opened for this, a socket for its own user alone.
 ///
 /// The talk runs on a thread of its own. While it does, the operations of a load let events through; those of
-/// a poll wait for a quarter of a second at most, and not at all while an earlier question is without an
-/// answer. After 5 seconds without a sign of life the connection is cut; from there on everything fails with
-/// 50290 until GetRunningObject attaches anew.
+/// a poll wait for a moment only, and not at all while an earlier question is without an answer. The
+/// operations that both have in common go by SpreadsheetInUse(). After 5 seconds without a sign of life the
+/// connection is cut; from there on everything fails with 50290 until GetRunningObject attaches anew.
 class CalcLink : public SheetLink {
  public:
   explicit CalcLink(CalcLinkOptions options = {});
@@ -72,6 +72,7 @@ class CalcLink : public SheetLink {
  private:
   struct Scratch;
 
+  static Asker CurrentAsker();
   SheetFault Held() const;
   SheetFault Ask(Asker asker, Errand& errand, const OfficeTalk::Question& question);
   SheetFault HeldBook(Workbook workbook) const;
@@ -84,6 +85,8 @@ class CalcLink : public SheetLink {
   SheetFault WindowTitles(std::vector<std::string>& titles);
 
   OfficeTalk talk_;
+  int asking_ = 0;  // Questions under way; more than one where an event asks in its turn.
+  int releases_ = 0;
   bool held_ = false;  // Between GetRunningObject and ReleaseObject.
   SheetFault lost_;    // Why everything fails from here on.
   std::map<Workbook, BookView> books_;

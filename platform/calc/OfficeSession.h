@@ -50,6 +50,7 @@ class OfficeSession {
   /// The product's name and version.
   virtual SheetFault Name(std::string& name) = 0;
   virtual SheetFault Visible(bool& visible) = 0;
+  /// Shows or hides the window of the workbook in front, and no other one; 91 when there is no workbook.
   virtual SheetFault SetVisible(bool visible) = 0;
   /// Ends the office when no document of any kind is open, else 1004.
   virtual SheetFault Quit() = 0;
@@ -75,7 +76,8 @@ class OfficeSession {
   /// none of that name.
   virtual SheetFault EnglishFunction(Workbook workbook, const std::string& localName, std::string& name) = 0;
   /// What a formula comes to in a cell, found in a document of its own that nobody sees and that is gone
-  /// afterwards. The cells that it names are copied there; more than 200,000 of them are 1004.
+  /// afterwards. The cells that it names, itself or by a defined name, are copied there; more than 200,000 of
+  /// them are 1004. A name that cannot be copied is unknown there.
   virtual SheetFault Evaluate(Workbook workbook, int row, int column, const std::string& formula,
                               CellValue& value) = 0;
   /// The values of a block. A cell with an error gives the text that it shows.

@@ -15,6 +15,7 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 namespace quorb {
@@ -45,27 +46,37 @@ class Descriptor {
   int number_;
 };
 
-// Waits for one of `events` until the deadline; false when it did not come.
-bool Wait(int socketNumber, short events, steady_clock::time_point deadline) {
-  for (;;) {
-    const auto left = std::chrono::duration_cast<milliseconds>(deadline - steady_clock::now()).count();
-    if (left < 0) return false;
+// How often a wait looks whether it was cut.
+constexpr milliseconds kWaitStep{10};
+
+// An end to waiting: a time, or that somebody cuts it.
+struct Limit {
+  steady_clock::time_point deadline;
+  const std::atomic<bool>* cut;
+
+  bool Over() const { return (cut != nullptr && *cut) || steady_clock::now() > deadline; }
+};
+
+// Waits for one of `events`; false when it did not come.
+bool Wait(int socketNumber, short events, const Limit& limit) {
+  while (!limit.Over()) {
     pollfd waited{socketNumber, events, 0};
-    const int ready = poll(&waited, 1, static_cast<int>(left));
+    const int ready = poll(&waited, 1, static_cast<int>(kWaitStep.count()));
     if (ready > 0) return true;
-    if (ready == 0 || errno != EINTR) return false;
+    if (ready < 0 && errno != EINTR) return false;
   }
+  return false;
 }
 
 enum class Heard { expected, other, tooLate };
 
 // Reads a text that ends in a zero byte and compares it.
-Heard Listen(int socketNumber, std::string_view expected, steady_clock::time_point deadline) {
+Heard Listen(int socketNumber, std::string_view expected, const Limit& limit) {
   std::array<char, 64> text{};
   const std::size_t wanted = expected.size() + 1;
   std::size_t length = 0;
   while (length < wanted) {
-    if (!Wait(socketNumber, POLLIN, deadline)) return Heard::tooLate;
+    if (!Wait(socketNumber, POLLIN, limit)) return Heard::tooLate;
     const ssize_t count = recv(socketNumber, text.data() + length, wanted - length, MSG_DONTWAIT);
     if (count < 0 && (errno == EINTR || errno == EAGAIN)) continue;
     if (count <= 0) return Heard::other;
@@ -76,9 +87,9 @@ Heard Listen(int socketNumber, std::string_view expected, steady_clock::time_poi
   return text[expected.size()] == '\0' ? Heard::expected : Heard::other;
 }
 
-bool Send(int socketNumber, std::string_view bytes, steady_clock::time_point deadline) {
+bool Send(int socketNumber, std::string_view bytes, const Limit& limit) {
   while (!bytes.empty()) {
-    if (!Wait(socketNumber, POLLOUT, deadline)) return false;
+    if (!Wait(socketNumber, POLLOUT, limit)) return false;
     const ssize_t count = send(socketNumber, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
     if (count < 0 && (errno == EINTR || errno == EAGAIN)) continue;
     if (count <= 0) return false;
@@ -87,20 +98,31 @@ bool Send(int socketNumber, std::string_view bytes, steady_clock::time_point dea
   return true;
 }
 
-// A connection to the socket; the number is negative when nobody listens. A full queue of a process that
-// takes nobody in counts as `silent`.
-int Connect(const std::string& path, bool& silent) {
-  silent = false;
+// A connection to the socket; the number is negative when there is none, and `problem` is then why: EAGAIN
+// where a process has a full queue and takes nobody in.
+int Connect(const std::string& path, int& problem) {
+  problem = ENAMETOOLONG;
   sockaddr_un address{};
   if (path.size() >= sizeof(address.sun_path)) return -1;
   address.sun_family = AF_UNIX;
   std::memcpy(address.sun_path, path.c_str(), path.size());
   const int number = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+  problem = errno;
   if (number < 0) return -1;
   if (connect(number, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) return number;
-  silent = errno == EAGAIN;
+  problem = errno;
   close(number);
   return -1;
+}
+
+// The same, and again while the queue is full.
+int ConnectAtLast(const std::string& path, const Limit& limit, int& problem) {
+  int number = Connect(path, problem);
+  while (number < 0 && problem == EAGAIN && !limit.Over()) {
+    std::this_thread::sleep_for(kWaitStep);
+    number = Connect(path, problem);
+  }
+  return number;
 }
 
 // The directory of a process's executable; empty when it may not be read.
@@ -115,17 +137,17 @@ std::string ExecutableDirectory(pid_t process) {
 }
 
 // Connects, sees that it is the user's own process, and hears the greeting.
-SocketAnswer Greet(const std::string& path, uid_t user, steady_clock::time_point deadline,
+SocketAnswer Greet(const std::string& path, uid_t user, const Limit& limit,
                    std::unique_ptr<Descriptor>& connection, pid_t& process) {
-  bool silent = false;
-  connection = std::make_unique<Descriptor>(Connect(path, silent));
-  if (connection->Number() < 0) return silent ? SocketAnswer::silent : SocketAnswer::nothing;
+  int problem = 0;
+  connection = std::make_unique<Descriptor>(ConnectAtLast(path, limit, problem));
+  if (connection->Number() < 0) return problem == EAGAIN ? SocketAnswer::silent : SocketAnswer::nothing;
   ucred peer{};
   socklen_t size = sizeof(peer);
   if (getsockopt(connection->Number(), SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0 || peer.uid != user)
     return SocketAnswer::nothing;
   process = peer.pid;
-  switch (Listen(connection->Number(), kGreeting, deadline)) {
+  switch (Listen(connection->Number(), kGreeting, limit)) {
     case Heard::expected:
       return SocketAnswer::office;
     case Heard::tooLate:
@@ -134,6 +156,23 @@ SocketAnswer Greet(const std::string& path, uid_t user, steady_clock::time_point
       break;
   }
   return SocketAnswer::nothing;
+}
+
+std::vector<std::string> AcceptorPaths(const std::string& name, uid_t user) {
+  std::vector<std::string> paths = SystemSocketDirectories();
+  for (std::string& path : paths)
+    path += "/OSL_PIPE_" + std::to_string(user) + "_" + name;
+  return paths;
+}
+
+bool IsSocketOf(const struct stat& status, uid_t user) {
+  return S_ISSOCK(status.st_mode) && status.st_uid == user;
+}
+
+bool NobodyListens(const std::string& path) {
+  int problem = 0;
+  const Descriptor probe(Connect(path, problem));
+  return probe.Number() < 0 && problem == ECONNREFUSED;
 }
 
 }  // namespace
@@ -166,10 +205,11 @@ std::vector<std::string> OfficeSocketPaths(const std::vector<std::string>& direc
   return paths;
 }
 
-SocketAnswer LookAtSocket(const std::string& path, uid_t user, milliseconds patience, RunningOffice& office) {
+SocketAnswer LookAtSocket(const std::string& path, uid_t user, milliseconds patience, RunningOffice& office,
+                          const std::atomic<bool>* cut) {
   std::unique_ptr<Descriptor> connection;
   pid_t process = 0;
-  const SocketAnswer answer = Greet(path, user, steady_clock::now() + patience, connection, process);
+  const SocketAnswer answer = Greet(path, user, {steady_clock::now() + patience, cut}, connection, process);
   if (answer != SocketAnswer::office) return answer;
   const std::string directory = ExecutableDirectory(process);
   if (directory.empty()) return SocketAnswer::nothing;
@@ -177,29 +217,37 @@ SocketAnswer LookAtSocket(const std::string& path, uid_t user, milliseconds pati
   return SocketAnswer::office;
 }
 
-bool TellOffice(const RunningOffice& office, uid_t user, const std::string& word, milliseconds patience) {
-  const auto deadline = steady_clock::now() + patience;
+bool TellOffice(const RunningOffice& office, uid_t user, const std::string& word, milliseconds patience,
+                const std::atomic<bool>* cut) {
+  const Limit limit{steady_clock::now() + patience, cut};
   std::unique_ptr<Descriptor> connection;
   pid_t process = 0;
-  if (Greet(office.socketPath, user, deadline, connection, process) != SocketAnswer::office) return false;
+  if (Greet(office.socketPath, user, limit, connection, process) != SocketAnswer::office) return false;
   std::string words = "InternalIPC::Arguments0,";
   for (const char c : word) {
     if (c == ',' || c == '\\') words += '\\';
     words += c;
   }
   words += '\0';
-  return Send(connection->Number(), words, deadline) &&
-         Listen(connection->Number(), kTaken, deadline) == Heard::expected;
+  return Send(connection->Number(), words, limit) &&
+         Listen(connection->Number(), kTaken, limit) == Heard::expected;
 }
 
 bool AcceptorStands(const std::string& name, uid_t user) {
-  const std::string socketName = "/OSL_PIPE_" + std::to_string(user) + "_" + name;
-  for (const std::string& directory : SystemSocketDirectories()) {
-    const std::string path = directory + socketName;
-    struct stat status {};
-    if (lstat(path.c_str(), &status) == 0) return S_ISSOCK(status.st_mode) && status.st_uid == user;
-  }
+  struct stat status {};
+  for (const std::string& path : AcceptorPaths(name, user))
+    if (lstat(path.c_str(), &status) == 0) return IsSocketOf(status, user);
   return false;
+}
+
+void RemoveStaleAcceptor(const std::string& name, uid_t user) {
+  for (const std::string& path : AcceptorPaths(name, user)) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0 || !IsSocketOf(status, user) || !NobodyListens(path)) continue;
+    // One that is just being made has no listener for a moment.
+    std::this_thread::sleep_for(kWaitStep);
+    if (NobodyListens(path)) unlink(path.c_str());
+  }
 }
 
 }  // namespace quorb

@@ -18,11 +18,11 @@ namespace {
 
 constexpr int kNotRunning = 429;
 constexpr int kDisconnected = -2147417848;
-constexpr milliseconds kGreetingPatience{1000};
-constexpr milliseconds kAcceptorPatience{4000};
+// One office that says nothing does not hold up the look at the others for longer.
+constexpr milliseconds kShortPatience{250};
 constexpr int kConnectPatience = 1000;
 constexpr int kMostConnects = 5;
-// After a question that came too late, the next one is not waited for.
+// After a question that came too late, the next one is hardly waited for.
 constexpr milliseconds kNoPatience{5};
 constexpr milliseconds kForever{1000L * 3600 * 24 * 365};
 
@@ -50,13 +50,14 @@ std::string AcceptorOf(const RunningOffice& office) {
   return "quorb_" + std::to_string(office.process);
 }
 
-bool OpenAcceptor(const RunningOffice& office) {
+bool OpenAcceptor(const RunningOffice& office, milliseconds patience, const std::atomic<bool>& cut) {
   const std::string name = AcceptorOf(office);
+  RemoveStaleAcceptor(name, getuid());
   if (AcceptorStands(name, getuid())) return true;
-  const auto deadline = std::chrono::steady_clock::now() + kAcceptorPatience;
-  if (!TellOffice(office, getuid(), "--accept=pipe,name=" + name + ";urp;", kGreetingPatience)) return false;
+  const auto deadline = std::chrono::steady_clock::now() + patience;
+  if (!TellOffice(office, getuid(), "--accept=pipe,name=" + name + ";urp;", patience, &cut)) return false;
   while (!AcceptorStands(name, getuid())) {
-    if (std::chrono::steady_clock::now() > deadline) return false;
+    if (cut || std::chrono::steady_clock::now() > deadline) return false;
     std::this_thread::sleep_for(milliseconds(2));
   }
   return true;
@@ -96,7 +97,7 @@ struct OfficeTalk::Connection {
       opened.session = std::move(session);
       opening = opened.session.get();
     }
-    if (OpenAcceptor(opened.office) && ConnectAtLast(opened)) return true;
+    if (OpenAcceptor(opened.office, options.silence, cut) && ConnectAtLast(opened)) return true;
     fault = BusyFault();
     Close(opened);
     return false;
@@ -129,24 +130,40 @@ struct OfficeTalk::Connection {
     return line.worth == 2;
   }
 
-  SheetFault Attach(std::atomic<unsigned>& pulse) {
-    if (StillServes()) return {};
-    cut = false;
-    SheetFault fault{kNotRunning, "No spreadsheet application is running."};
-    for (const std::string& path : OfficeSocketPaths(options.socketDirectories, getuid())) {
+  // Looks for offices on these sockets; those that say nothing in time stay in `paths`.
+  void Search(std::vector<std::string>& paths, milliseconds patience, std::atomic<unsigned>& pulse,
+              SheetFault& fault) {
+    std::vector<std::string> silent;
+    for (const std::string& path : paths) {
       ++pulse;
-      if (cut) return BusyFault();
+      if (cut || line.worth == 2) break;
       Line other;
-      const SocketAnswer answer = LookAtSocket(path, getuid(), kGreetingPatience, other.office);
-      if (answer == SocketAnswer::silent) fault = BusyFault();
+      const SocketAnswer answer = LookAtSocket(path, getuid(), patience, other.office, &cut);
+      if (answer == SocketAnswer::silent) silent.push_back(path);
       if (answer != SocketAnswer::office) continue;
       if (line.session != nullptr && other.office.process == line.office.process) continue;
+      ++pulse;
       if (!Open(other, pulse, fault)) continue;
       if (other.worth > line.worth) Exchange(other);
       Close(other);
-      if (line.worth == 2) break;
     }
-    return line.worth >= 1 ? SheetFault() : fault;
+    paths = std::move(silent);
+  }
+
+  // The polls of a time look again and again, so that one of them need not wait for an office that is slow.
+  SheetFault Attach(Asker asker, std::atomic<unsigned>& pulse) {
+    const bool wasCut = cut;
+    if (StillServes()) return {};
+    if (cut && !wasCut) return BusyFault();
+    cut = false;
+    SheetFault fault{kNotRunning, "No spreadsheet application is running."};
+    std::vector<std::string> paths = OfficeSocketPaths(options.socketDirectories, getuid());
+    Search(paths, kShortPatience, pulse, fault);
+    if (asker == Asker::load && line.worth < 1 && !paths.empty())
+      Search(paths, options.silence, pulse, fault);
+    if (cut) return BusyFault();
+    if (line.worth >= 1) return {};
+    return paths.empty() ? fault : BusyFault();
   }
 
   void Exchange(Line& other) {
@@ -182,7 +199,7 @@ SheetFault OfficeTalk::Perform(Asker asker, milliseconds patience, Errand& erran
   JobEnd end = JobEnd::busy;
   if (asker == Asker::poll) {
     end = worker_->Run(job, late_ ? kNoPatience : patience, nullptr);
-    late_ = end != JobEnd::done;
+    late_ = end != JobEnd::done || answer->fault.number == kFaultBusy;
   } else {
     const auto pump = [] { CurrentDialogs().PumpEvents(); };
     while ((end = worker_->Run(job, kForever, pump)) == JobEnd::busy) {
@@ -195,15 +212,24 @@ SheetFault OfficeTalk::Perform(Asker asker, milliseconds patience, Errand& erran
   return answer->fault;
 }
 
-SheetFault OfficeTalk::Attach() {
+void OfficeTalk::Cut() {
+  if (worker_ != nullptr) worker_->CutRunning();
+}
+
+bool OfficeTalk::IsCut() const {
+  return connection_->cut;
+}
+
+SheetFault OfficeTalk::Attach(Asker asker) {
   // The threads begin with the first look for an office, not with the program.
   if (worker_ == nullptr)
     worker_ =
         std::make_unique<WatchedWorker>(options_.silence, [connection = connection_] { connection->Cut(); });
   Errand errand;
-  SheetFault fault = Perform(
-      Asker::poll, attached_ ? options_.pollPatience : options_.attachPatience, errand,
-      [connection = connection_, &pulse = worker_->Pulse()](Errand&) { return connection->Attach(pulse); });
+  SheetFault fault = Perform(asker, attached_ ? options_.pollPatience : options_.attachPatience, errand,
+                             [connection = connection_, asker, &pulse = worker_->Pulse()](Errand&) {
+                               return connection->Attach(asker, pulse);
+                             });
   attached_ = fault.Good();
   return fault;
 }

@@ -19,9 +19,9 @@ struct CalcLinkOptions {
   /// Without a sign of life for that long, the office is cut off.
   std::chrono::milliseconds silence{5000};
   /// So long the operations of a poll wait at most; then they are busy and the question goes on.
-  std::chrono::milliseconds pollPatience{250};
+  std::chrono::milliseconds pollPatience{50};
   /// The same for attaching, where nothing is attached yet.
-  std::chrono::milliseconds attachPatience{2000};
+  std::chrono::milliseconds attachPatience{20};
 };
 
 /// A question to the office: what is asked and what came back.
@@ -55,8 +55,15 @@ class OfficeTalk {
   OfficeTalk& operator=(const OfficeTalk&) = delete;
 
   /// Attaches, or sees that it still is attached. 429 when no office with a spreadsheet or without any
-  /// document runs; 50290 when there is one which does not answer.
-  SheetFault Attach();
+  /// document runs; 50290 when there is one which does not answer, or not in time for a poll: attaching then
+  /// goes on, and a later poll finds it done.
+  SheetFault Attach(Asker asker);
+
+  /// Cuts the question that runs, if any; it then ends as busy.
+  void Cut();
+
+  /// True from the time that a connection was cut to the next Attach.
+  bool IsCut() const;
 
   /// Asks. `question` runs on another thread and may outlive the caller: it captures values only, and what it
   /// writes goes to the errand that it is given. `errand` takes the answer when there was one in time. 50290

@@ -45,7 +45,7 @@ void WatchedWorker::Work() {
     lock.unlock();
     job();
     lock.lock();
-    running_ = false;
+    running_ = cutsNow_ = false;
     changed_.notify_all();
   }
 }
@@ -58,12 +58,13 @@ void WatchedWorker::Watch() {
     unsigned seen = pulse_;
     auto since = Clock::now();
     while (running_) {
-      changed_.wait_for(lock, std::min(silence_, milliseconds(50)));
+      changed_.wait_for(lock, std::min(silence_, milliseconds(50)), [this] { return cutsNow_ || !running_; });
       if (!running_) break;
-      if (pulse_ != seen && !ending_) {
+      const bool cutsNow = std::exchange(cutsNow_, false) || ending_;
+      if (pulse_ != seen && !cutsNow) {
         seen = pulse_;
         since = Clock::now();
-      } else if (ending_ || Clock::now() - since >= silence_) {
+      } else if (cutsNow || Clock::now() - since >= silence_) {
         lock.unlock();
         cut_();
         lock.lock();
@@ -94,6 +95,12 @@ JobEnd WatchedWorker::Run(std::function<void()> job, milliseconds patience,
     lock.lock();
   }
   return JobEnd::done;
+}
+
+void WatchedWorker::CutRunning() {
+  const std::lock_guard lock(mutex_);
+  cutsNow_ = running_;
+  changed_.notify_all();
 }
 
 bool WatchedWorker::Running() {

@@ -40,6 +40,9 @@ class WatchedWorker {
   JobEnd Run(std::function<void()> job, std::chrono::milliseconds patience,
              const std::function<void()>& meanwhile);
 
+  /// Cuts the running job without waiting for its silence; does nothing when none runs.
+  void CutRunning();
+
   /// True while a job runs.
   bool Running();
 
@@ -54,6 +57,7 @@ class WatchedWorker {
   std::condition_variable changed_;
   std::function<void()> job_;
   bool running_ = false;
+  bool cutsNow_ = false;
   bool ending_ = false;
   std::thread worker_;
   std::thread watch_;

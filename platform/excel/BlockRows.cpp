@@ -40,13 +40,13 @@ std::wstring PlainCell(std::wstring_view quoted) {
 
 }  // namespace
 
-SheetFault GiveBlockRows(std::wstring_view text, BlockTextSink& sink) {
+SheetFault GiveBlockRows(std::wstring_view text, bool keepsFirst, BlockTextSink& sink) {
   std::wstring piece;
   std::size_t at = 0;
   while (at < text.size()) {
     const std::wstring_view quoted = text[at] == L'"' ? QuotedCell(text, at) : std::wstring_view();
     if (!quoted.empty()) {
-      piece += at == 0 ? std::wstring(quoted) : PlainCell(quoted);
+      piece += keepsFirst && at == 0 ? std::wstring(quoted) : PlainCell(quoted);
       at += quoted.size();
     }
     // The rest of the cell, and what ends it.

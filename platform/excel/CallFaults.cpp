@@ -15,6 +15,9 @@ constexpr int kFaultArgumentCount = 450;
 
 constexpr int kFacilityRpc = 7;
 
+// The application's own result for an object that the user has closed.
+constexpr HRESULT kClosedObject = static_cast<HRESULT>(0x800401A8);
+
 int FaultNumberOf(HRESULT result) {
   switch (result) {
     case DISP_E_MEMBERNOTFOUND:
@@ -33,6 +36,8 @@ int FaultNumberOf(HRESULT result) {
       return kFaultOutOfBounds;
     case DISP_E_OVERFLOW:
       return kFaultOverflow;
+    case kClosedObject:
+      return kFaultObjectRequired;
     case MK_E_UNAVAILABLE:
     case CO_E_CLASSSTRING:
     case REGDB_E_CLASSNOTREG:
@@ -44,6 +49,9 @@ int FaultNumberOf(HRESULT result) {
     case RPC_E_DISCONNECTED:
     case RPC_E_SERVER_DIED:
     case RPC_E_SERVER_DIED_DNE:
+    case RPC_E_CONNECTION_TERMINATED:
+    case RPC_E_INVALID_OBJECT:
+    case RPC_E_INVALID_IPID:
     case CO_E_OBJNOTCONNECTED:
       return kFaultDisconnected;
     default:
@@ -55,6 +63,10 @@ int FaultNumberOf(HRESULT result) {
       case RPC_S_SERVER_UNAVAILABLE:
       case RPC_S_UNKNOWN_IF:
         return kFaultDisconnected;
+      case RPC_S_CALL_FAILED_DNE:
+        return kFaultRemoteCallFailed;
+      case RPC_S_SERVER_TOO_BUSY:
+        return kFaultCallRejected;
       default:
         break;
     }

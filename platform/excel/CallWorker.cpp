@@ -44,14 +44,17 @@ void CallWorker::Work(State& state) {
     job();
     job = nullptr;
     lock.lock();
-    state.running = false;
+    state.running = state.hanging = false;
     state.changed.notify_all();
   }
 }
 
 bool CallWorker::WaitUntilIdle(std::chrono::milliseconds limit) {
   std::unique_lock lock(state_->mutex);
-  return state_->changed.wait_for(lock, limit, [this] { return !state_->running; });
+  if (state_->hanging) return false;
+  const bool isIdle = state_->changed.wait_for(lock, limit, [this] { return !state_->running; });
+  state_->hanging = !isIdle;
+  return isIdle;
 }
 
 bool CallWorker::Run(std::function<void()> job, const JobWait& wait) {
@@ -65,7 +68,8 @@ bool CallWorker::Run(std::function<void()> job, const JobWait& wait) {
   while (state_->running) {
     const auto now = Clock::now();
     if (now >= deadline) {
-      if (!wait.isAlive || !wait.isAlive()) return false;
+      state_->hanging = !wait.isAlive || !wait.isAlive();
+      if (state_->hanging) return false;
       deadline = now + wait.limit;
     }
     const auto step = std::min<Clock::duration>(kPumpEvery, deadline - now);

@@ -31,7 +31,8 @@ class CallWorker {
   /// Does a job. False: it was given up, or not begun because an earlier one still hangs.
   bool Run(std::function<void()> job, const JobWait& wait);
 
-  /// Waits until no job runs; false when one still does after that time.
+  /// Waits until no job runs; false when one still does after that time, and at once while one runs that has
+  /// been waited for in vain before.
   bool WaitUntilIdle(std::chrono::milliseconds limit);
 
  private:
@@ -40,6 +41,7 @@ class CallWorker {
     std::condition_variable changed;
     std::function<void()> job;
     bool running = false;
+    bool hanging = false;  // The job that runs has been waited for in vain.
     bool ending = false;
     bool ended = false;
   };

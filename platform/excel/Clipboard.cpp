@@ -96,10 +96,10 @@ SheetFault ClearClipboard() {
   return cleared ? SheetFault() : FaultOf(kFaultClipboard);
 }
 
-void ClipboardKeeper::Keep() {
-  if (keeping_) return;
+SheetFault ClipboardKeeper::Keep() {
+  if (keeping_) return {};
   const OpenedClipboard clipboard;
-  if (!clipboard.IsOpen()) return;
+  if (!clipboard.IsOpen()) return FaultOf(kFaultClipboard);
   keeping_ = true;
   contents_.clear();
   std::size_t kept = 0;
@@ -110,15 +110,18 @@ void ClipboardKeeper::Keep() {
     kept += bytes.size();
     contents_.push_back({format, std::move(bytes)});
   }
+  stateKept_ = GetClipboardSequenceNumber();
+  return {};
 }
 
 void ClipboardKeeper::PutBack(unsigned long user) {
   if (!keeping_) return;
+  const bool isTheUsers = GetClipboardSequenceNumber() == stateKept_ || FilledBySomebodyElse(user);
+  const OpenedClipboard clipboard;
+  if (!isTheUsers && !clipboard.IsOpen()) return;
   keeping_ = false;
   const std::vector<Content> contents = std::exchange(contents_, {});
-  if (FilledBySomebodyElse(user)) return;
-  const OpenedClipboard clipboard;
-  if (!clipboard.IsOpen() || EmptyClipboard() == 0) return;
+  if (isTheUsers || EmptyClipboard() == 0) return;
   for (const Content& content : contents)
     PutBytes(content.format, content.bytes);
 }

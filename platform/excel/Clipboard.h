@@ -20,10 +20,12 @@ SheetFault ClearClipboard();
 /// is what is larger than 64 MiB.
 class ClipboardKeeper {
  public:
-  /// Takes a copy of what is there now; does nothing while one is kept.
-  void Keep();
-  /// Puts it back, once. It does nothing when another program than `user` and this one has filled the
-  /// clipboard meanwhile: that is then what the user wants there.
+  /// Takes a copy of what is there now; does nothing while one is kept. Fails with 521 when the clipboard
+  /// cannot be read: it must not be used then.
+  SheetFault Keep();
+  /// Puts it back, once; where the clipboard is held open by another program, a later call does. It does
+  /// nothing when the clipboard was not touched since, nor when another program than `user` and this one has
+  /// filled it meanwhile: that is then what the user wants there.
   /// @param user process that used the clipboard; 0 when it is not known: then it is put back in any case.
   void PutBack(unsigned long user);
 
@@ -34,6 +36,7 @@ class ClipboardKeeper {
   };
 
   bool keeping_ = false;
+  unsigned long stateKept_ = 0;  // The clipboard's count of changes when the copy was taken.
   std::vector<Content> contents_;
 };
 

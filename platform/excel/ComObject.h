@@ -55,6 +55,8 @@ class ComObject {
   ~ComObject();
 
   bool IsNothing() const { return object_ == nullptr; }
+  /// True for two that share one object; the application may hand out several objects for one cell.
+  bool Shares(const ComObject& other) const { return object_ == other.object_; }
 
   /// Reads a property, or calls a method that gives something.
   SheetFault Get(const wchar_t* member, Variant& value, const CallArguments& arguments = {}) const;

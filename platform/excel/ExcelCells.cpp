@@ -2,28 +2,55 @@
 
 namespace quorb {
 
+namespace {
+
+// Two cells of one sheet.
+SheetFault IsSameCell(const ComObject& cell, const ComObject& other, bool& isSame) {
+  isSame = cell.Shares(other);
+  if (isSame) return {};
+  int row = 0, column = 0, otherRow = 0, otherColumn = 0;
+  SheetFault fault = cell.GetInteger(L"Row", row);
+  if (fault.Good()) fault = cell.GetInteger(L"Column", column);
+  if (fault.Good()) fault = other.GetInteger(L"Row", otherRow);
+  if (fault.Good()) fault = other.GetInteger(L"Column", otherColumn);
+  isSame = fault.Good() && row == otherRow && column == otherColumn;
+  return fault;
+}
+
+}  // namespace
+
+// Sheet and cell go together, though the user may go to another sheet at any time: the sheet is the cell's.
+// One without cells, such as a chart, has none that is active.
+SheetFault ExcelSession::TakeView(Book& book) {
+  if (!book.sheet.IsNothing()) return {};
+  ComObject window, cell, sheet;
+  SheetFault fault = WindowOf(book, window);
+  if (!fault.Good()) return fault;
+  fault = window.Follow(L"ActiveCell", cell);
+  const bool isCell = fault.Good() && !cell.IsNothing();
+  const bool isRefused = fault.number == kFaultApplication || fault.number == kFaultNoObject;
+  if (!fault.Good() && !isRefused) return fault;
+  fault = isCell ? cell.Follow(L"Worksheet", sheet) : book.workbook.Follow(L"ActiveSheet", sheet);
+  if (!fault.Good()) return fault;
+  book.sheet = sheet;
+  book.cell = cell;
+  return {};
+}
+
 SheetFault ExcelSession::SheetOf(Workbook workbook, ComObject& sheet) {
   Book* book = Known(workbook);
   if (book == nullptr) return FaultOf(kFaultNoObject);
-  if (book->sheet.IsNothing()) {
-    SheetFault fault = book->workbook.Follow(L"ActiveSheet", book->sheet);
-    if (!fault.Good()) return fault;
-  }
-  sheet = book->sheet;
-  return {};
+  SheetFault fault = TakeView(*book);
+  if (fault.Good()) sheet = book->sheet;
+  return fault;
 }
 
 SheetFault ExcelSession::CellOf(Workbook workbook, ComObject& cell) {
   Book* book = Known(workbook);
   if (book == nullptr) return FaultOf(kFaultNoObject);
-  if (book->cell.IsNothing()) {
-    ComObject window;
-    SheetFault fault = WindowOf(*book, window);
-    if (fault.Good()) fault = window.Follow(L"ActiveCell", book->cell);
-    if (!fault.Good()) return fault;
-  }
-  cell = book->cell;
-  return {};
+  SheetFault fault = TakeView(*book);
+  if (fault.Good()) cell = book->cell;
+  return fault;
 }
 
 SheetFault ExcelSession::ActiveSheetName(Workbook workbook, std::string& name) {
@@ -32,10 +59,12 @@ SheetFault ExcelSession::ActiveSheetName(Workbook workbook, std::string& name) {
   return fault.Good() ? sheet.GetText(L"Name", name) : fault;
 }
 
-SheetFault ExcelSession::ActiveCellText(Workbook workbook, const wchar_t* member, std::string& text) {
+SheetFault ExcelSession::ActiveCellFormula(Workbook workbook, std::string& formula) {
   ComObject cell;
   SheetFault fault = CellOf(workbook, cell);
-  return fault.Good() ? cell.GetText(member, text) : fault;
+  if (fault.Good()) fault = cell.GetText(L"Formula", formula);
+  if (fault.Good()) Known(workbook)->cellRead = cell;
+  return fault;
 }
 
 SheetFault ExcelSession::ActiveCellInteger(Workbook workbook, const wchar_t* member, int& number) {
@@ -56,7 +85,13 @@ SheetFault ExcelSession::ActiveCellValue(Workbook workbook, CellValue& value) {
 SheetFault ExcelSession::SetActiveCellFormula(Workbook workbook, const std::string& formula) {
   ComObject cell;
   SheetFault fault = CellOf(workbook, cell);
-  return fault.Good() ? cell.Put(L"Formula", formula) : fault;
+  if (!fault.Good()) return fault;
+  const ComObject& read = Known(workbook)->cellRead;
+  if (read.IsNothing()) return FaultOf(kFaultBusy);
+  bool isRead = true;
+  fault = IsSameCell(cell, read, isRead);
+  if (!fault.Good()) return fault;
+  return isRead ? cell.Put(L"Formula", formula) : FaultOf(kFaultBusy);
 }
 
 // ---- searching --------------------------------------------------------------------------------------------
@@ -124,10 +159,14 @@ SheetFault ExcelSession::Evaluate(Workbook workbook, const std::string& formula,
   Variant result;
   SheetFault fault = SheetOf(workbook, sheet);
   if (fault.Good()) fault = sheet.Get(L"Evaluate", result, CallArguments(formula));
-  // A formula that is no more than a reference gives the cell.
-  if (fault.Good() && result.Object() != nullptr) fault = ComObject(result.Object()).Get(L"Value", result);
-  if (fault.Good()) value = result.Cell();
-  return fault;
+  if (!fault.Good()) return fault;
+  // A formula that is no more than a reference gives the cell; an empty one counts as 0.
+  const bool isReference = result.Object() != nullptr;
+  if (isReference) fault = ComObject(result.Object()).Get(L"Value", result);
+  if (!fault.Good()) return fault;
+  const bool isEmpty = isReference && result.Held().vt == VT_EMPTY;
+  value = isEmpty ? Variant(0).Cell() : result.Cell();
+  return {};
 }
 
 }  // namespace quorb

@@ -5,6 +5,7 @@
 #include "BlockRows.h"
 #include "Dialogs.h"
 #include "ExcelSession.h"
+#include "WideText.h"
 
 namespace quorb {
 
@@ -16,6 +17,19 @@ constexpr int kLeastShareOfTime = 10;
 constexpr std::size_t kLongestEvaluated = 255;
 
 struct Nothing {};
+
+// Gives nothing more to the caller once the application was released in an event.
+class SinkUntilReleased : public BlockTextSink {
+ public:
+  SinkUntilReleased(BlockTextSink& sink, const int& releases)
+      : sink_(sink), releases_(releases), releasesBefore_(releases) {}
+  bool Take(std::string_view piece) override { return releases_ == releasesBefore_ && sink_.Take(piece); }
+
+ private:
+  BlockTextSink& sink_;
+  const int& releases_;
+  const int releasesBefore_;
+};
 
 }  // namespace
 
@@ -44,15 +58,17 @@ SheetFault ExcelLink::Ask(Asker asker, Result& result, const Question& question)
   if (isInEvent && asker != Asker::poll && !worker_.WaitUntilIdle(limit_)) return FaultOf(kFaultBusy);
   JobWait wait;
   wait.limit = limit_;
-  std::function<void()> job = [=] { answer->fault = question(*session, answer->value); };
-  if (asker == Asker::poll)
-    job = [=] { answer->fault = session->Ask([&] { return question(*session, answer->value); }); };
+  // A release may be asked for before and while the question is answered.
+  const std::function<void()> job = [=] {
+    const auto ask = [&] { return question(*session, answer->value); };
+    session->ReleaseIfAsked();
+    if (asker == Asker::load) session->LookUpProcess();
+    answer->fault = asker == Asker::attach ? ask()
+                    : asker == Asker::poll ? session->Ask(ask)
+                                           : session->AskPatiently(ask);
+    session->ReleaseIfAsked();
+  };
   if (asker == Asker::load) {
-    job = [=] {
-      const auto ask = [&] { return question(*session, answer->value); };
-      session->LookUpProcess();
-      answer->fault = session->AskPatiently(ask);
-    };
     if (!isInEvent) wait.meanwhile = [] { CurrentDialogs().PumpEvents(); };
     wait.isAlive = [this] { return IsComputing(); };
     timeUsed_ = processorTime_(session_->Process());
@@ -77,10 +93,11 @@ SheetFault ExcelLink::Tell(const Question& question) {
 // The objects are let go on the thread that got them.
 ExcelLink::~ExcelLink() {
   Nothing nothing;
-  static_cast<void>(Ask(Asker::attach, nothing, [](ExcelSession& session, Nothing&) {
+  const SheetFault fault = Ask(Asker::attach, nothing, [](ExcelSession& session, Nothing&) {
     session.Abandon();
     return SheetFault();
-  }));
+  });
+  if (!fault.Good()) session_->ReleaseSoon();
 }
 
 // ---- the application --------------------------------------------------------------------------------------
@@ -92,10 +109,11 @@ SheetFault ExcelLink::GetRunningObject() {
 
 void ExcelLink::ReleaseObject() {
   Nothing nothing;
-  static_cast<void>(Ask(Asker::attach, nothing, [](ExcelSession& session, Nothing&) {
+  const SheetFault fault = Ask(Asker::attach, nothing, [](ExcelSession& session, Nothing&) {
     session.Release();
     return SheetFault();
-  }));
+  });
+  if (!fault.Good()) session_->ReleaseSoon();
   ++releases_;
 }
 
@@ -190,7 +208,7 @@ SheetFault ExcelLink::ActiveSheetName(Workbook workbook, std::string& name) {
 
 SheetFault ExcelLink::ActiveCellFormula(Workbook workbook, std::string& formula) {
   return Ask(Asker::poll, formula, [=](ExcelSession& session, std::string& result) {
-    return session.ActiveCellText(workbook, L"Formula", result);
+    return session.ActiveCellFormula(workbook, result);
   });
 }
 
@@ -236,8 +254,13 @@ SheetFault ExcelLink::CellsSelect(Workbook workbook, int row, int column) {
 
 SheetFault ExcelLink::EvaluateAside(Workbook workbook, const std::string& formula, CellValue& value,
                                     bool& offered) {
-  offered = formula.size() <= kLongestEvaluated;
-  if (!offered) return {};
+  const bool isShort = WideText(formula).size() <= kLongestEvaluated;
+  if (!isShort) {
+    SheetFault held = Tell([](ExcelSession& session) { return session.Held(); });
+    offered = !held.Good();
+    return held;
+  }
+  offered = true;
   return Ask(Asker::load, value, [=](ExcelSession& session, CellValue& result) {
     return session.Evaluate(workbook, formula, result);
   });
@@ -278,12 +301,15 @@ SheetFault ExcelLink::SelectionNumberFormat(const std::string& format) {
 }
 
 SheetFault ExcelLink::BlockText(const std::string& range, BlockTextSink& sink) {
-  std::wstring text;
-  SheetFault fault = Ask(Asker::load, text, [=](ExcelSession& session, std::wstring& result) {
+  const int releases = releases_;
+  TextOfBlock text;
+  SheetFault fault = Ask(Asker::load, text, [=](ExcelSession& session, TextOfBlock& result) {
     return session.BlockText(range, result);
   });
   if (!fault.Good()) return fault;
-  return GiveBlockRows(text, sink);
+  SinkUntilReleased untilReleased(sink, releases_);
+  fault = GiveBlockRows(text.rows, text.beginsWritten, untilReleased);
+  return releases == releases_ ? fault : FaultOf(kFaultNoObject);
 }
 
 }  // namespace quorb

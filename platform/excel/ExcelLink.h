@@ -21,9 +21,9 @@ class ExcelSession;
 ///
 /// The active workbook, sheet and cell are kept here, beginning with what the user sees: the user's windows
 /// and selection do not move, but for the scratch workbook that comes and goes in front of them. A formula of
-/// the user's is evaluated aside; only one of more than 255 bytes is left to the caller, who writes it into
-/// the cell for a moment. The application remembers the settings of the last search, so its Find box shows
-/// those of the loader.
+/// the user's is evaluated aside; only one of more than 255 characters is left to the caller, who writes it
+/// into the cell for a moment. The application remembers the settings of the last search, so its Find box
+/// shows those of the loader.
 ///
 /// A paste and the block's text go through the clipboard. What the user had there is put back before the
 /// operation returns, unless another program has filled it meanwhile: text, marked-up text, a picture, a list
@@ -32,8 +32,9 @@ class ExcelSession;
 /// busy.
 ///
 /// The talk runs on a thread of its own. A call that takes 5 seconds is given up as busy (50290), and
-/// everything is busy until it has come back; a load's call may take longer for as long as the application
-/// computes, and lets events through. A load's call that is rejected is tried again for a second.
+/// everything is busy until it has come back, and a release waits for that; a load's call may take longer for
+/// as long as the application computes, and lets events through. A load's call that is rejected is tried
+/// again for a second.
 class ExcelLink : public SheetLink {
  public:
   /// The processor time that a process has used, in microseconds.

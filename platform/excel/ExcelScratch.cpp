@@ -12,28 +12,22 @@ SheetFault ExcelSession::ScratchRange(const std::string& range, ComObject& block
   return fault.Good() ? sheet.Follow(L"Range", block, CallArguments(range)) : fault;
 }
 
-// A block that the sheet refuses is left out; one that is lost otherwise makes the whole table worthless.
-SheetFault ExcelSession::NoteLoss(const SheetFault& fault) {
-  if (!fault.Good() && fault.number != kFaultApplication) lost_ = fault;
-  return fault;
-}
-
 // The block is copied when it is pasted: until then the clipboard is the user's.
 SheetFault ExcelSession::RangeCopy(const std::string& range) {
-  marked_ = ComObject();
-  ComObject sheet;
+  ComObject sheet, block;
   SheetFault fault = TakeActive();
   if (fault.Good() && active_ != kNoWorkbook && active_ == scratchBook_)
     return {kFaultApplication, "The scratch workbook is not copied from"};
   if (fault.Good()) fault = SheetOf(active_, sheet);
-  if (fault.Good()) fault = sheet.Follow(L"Range", marked_, CallArguments(range));
-  return NoteLoss(fault);
+  if (fault.Good()) fault = sheet.Follow(L"Range", block, CallArguments(range));
+  if (fault.Good()) marked_ = block;
+  return fault;
 }
 
 // Copies in the application, with what the user has on the clipboard kept.
 SheetFault ExcelSession::CopyBlock(const ComObject& block) {
-  clipboard_.Keep();
-  SheetFault fault = block.Call(L"Copy");
+  SheetFault fault = clipboard_.Keep();
+  if (fault.Good()) fault = block.Call(L"Copy");
   copying_ = copying_ || fault.Good();
   return fault;
 }
@@ -41,7 +35,7 @@ SheetFault ExcelSession::CopyBlock(const ComObject& block) {
 SheetFault ExcelSession::RangePasteSpecial(const std::string& range, const PasteArguments& arguments) {
   ComObject block;
   SheetFault fault = ScratchRange(range, block);
-  if (!fault.Good()) return NoteLoss(fault);
+  if (!fault.Good()) return fault;
   if (marked_.IsNothing()) return {kFaultApplication, "No block is marked"};
   CallArguments named;
   named.Add(L"Paste", arguments.Paste);
@@ -51,7 +45,7 @@ SheetFault ExcelSession::RangePasteSpecial(const std::string& range, const Paste
   fault = CopyBlock(marked_);
   if (fault.Good()) fault = block.Call(L"PasteSpecial", named);
   SheetFault ended = EndCopying();
-  return NoteLoss(fault.Good() ? ended : fault);
+  return fault.Good() ? ended : fault;
 }
 
 // Takes the application's own mark off, if it is this program's, and gives the clipboard back.
@@ -77,9 +71,12 @@ SheetFault ExcelSession::RangeSelect(const std::string& range) {
 }
 
 SheetFault ExcelSession::SetActiveCell(const std::string& text) {
-  ComObject block;
-  SheetFault fault = ScratchRange(selection_.empty() ? "A1" : selection_, block);
-  return fault.Good() ? block.Put(L"Value", text) : fault;
+  ComObject block, cell;
+  SheetFault fault = ScratchRange(selection_, block);
+  if (fault.Good()) fault = block.Follow(L"Item", cell, CallArguments(1).Add(1));
+  if (fault.Good()) fault = cell.Put(L"Value", text);
+  if (fault.Good()) written_ = selection_.substr(0, selection_.find(':'));
+  return fault;
 }
 
 SheetFault ExcelSession::ColumnsSelect(const std::string& columns) {
@@ -91,25 +88,23 @@ SheetFault ExcelSession::ColumnsSelect(const std::string& columns) {
 
 SheetFault ExcelSession::SelectionColumnWidth(double width) {
   ComObject block;
-  SheetFault fault = ScratchRange(selection_.empty() ? "A1" : selection_, block);
+  SheetFault fault = ScratchRange(selection_, block);
   return fault.Good() ? block.Put(L"ColumnWidth", width) : fault;
 }
 
 SheetFault ExcelSession::SelectionNumberFormat(const std::string& format) {
   ComObject block;
-  SheetFault fault = ScratchRange(selection_.empty() ? "A1" : selection_, block);
+  SheetFault fault = ScratchRange(selection_, block);
   return fault.Good() ? block.Put(L"NumberFormat", format) : fault;
 }
 
-SheetFault ExcelSession::BlockText(const std::string& range, std::wstring& text) {
-  if (!lost_.Good()) return lost_;
+SheetFault ExcelSession::BlockText(const std::string& range, TextOfBlock& text) {
   ComObject block;
   SheetFault fault = ScratchRange(range, block);
   if (!fault.Good()) return fault;
-  clipboard_.Keep();
-  fault = ClearClipboard();
-  if (fault.Good()) fault = CopyBlock(block);
-  if (fault.Good()) fault = ReadClipboardText(process_, text);
+  fault = CopyBlock(block);
+  if (fault.Good()) fault = ReadClipboardText(process_, text.rows);
+  text.beginsWritten = !written_.empty() && range.substr(0, range.find(':')) == written_;
   SheetFault ended = EndCopying();
   return fault.Good() ? ended : fault;
 }

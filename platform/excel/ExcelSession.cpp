@@ -10,8 +10,8 @@ namespace {
 
 constexpr wchar_t kProgramIdentifier[] = L"Excel.Application";
 
-bool IsGone(int number) {
-  return number == kFaultDisconnected || number == kFaultRemoteCallFailed || number == kFaultObjectRequired;
+bool IsLost(int number) {
+  return number == kFaultDisconnected || number == kFaultRemoteCallFailed;
 }
 
 SheetFault ItemOf(const ComObject& owner, const wchar_t* collection, const CallArguments& key,
@@ -21,12 +21,16 @@ SheetFault ItemOf(const ComObject& owner, const wchar_t* collection, const CallA
   return fault.Good() ? items.Follow(L"Item", item, key) : fault;
 }
 
-// The title without the number that it has where the workbook has several windows.
+// The title without the number that it has where the workbook has several windows: "name:2", in newer
+// versions "name  -  2".
 std::string WithoutWindowNumber(const std::string& title) {
-  const std::size_t colon = title.find_last_of(':');
-  const bool isNumber = colon != std::string::npos && colon + 1 < title.size() &&
-                        title.find_first_not_of("0123456789", colon + 1) == std::string::npos;
-  return isNumber ? title.substr(0, colon) : title;
+  const std::size_t end = title.find_last_not_of("0123456789");
+  if (end == std::string::npos || end + 1 == title.size()) return title;
+  for (const std::string mark : {":", "  -  "}) {
+    const std::string before = title.substr(0, end + 1);
+    if (before.ends_with(mark)) return before.substr(0, before.size() - mark.size());
+  }
+  return title;
 }
 
 SheetFault CaptionOf(const ComObject& windows, const ComObject& window, std::string& caption) {
@@ -53,13 +57,15 @@ SheetFault CaptionOfWindow(const ComObject& window, ComObject& workbook, std::st
 SheetFault ExcelSession::Attach() {
   Release();
   process_ = 0;
-  return RunningApplication(kProgramIdentifier, app_);
+  SheetFault fault = RunningApplication(kProgramIdentifier, app_);
+  // One that has just ended may still stand in the system's list of those that run.
+  return IsLost(fault.number) ? FaultOf(kFaultNoApplication) : fault;
 }
 
 // Versions that do not tell their window have no known process.
 void ExcelSession::LookUpProcess() {
   int window = 0;
-  if (process_ != 0 || app_.IsNothing() || !app_.GetInteger(L"Hwnd", window).Good()) return;
+  if (process_ != 0 || app_.IsNothing() || !gone_.Good() || !app_.GetInteger(L"Hwnd", window).Good()) return;
   DWORD process = 0;
   GetWindowThreadProcessId(static_cast<HWND>(LongToHandle(window)), &process);
   process_ = process;
@@ -67,15 +73,20 @@ void ExcelSession::LookUpProcess() {
 
 void ExcelSession::Release() {
   // A scratch workbook that cannot be closed now is closed later, unless it is gone.
-  if (IsGone(CloseScratch().number)) scratch_ = ComObject();
-  clipboard_.PutBack(process_);
+  releaseSoon_ = false;
+  static_cast<void>(EndCopying());
+  if (IsLost(CloseScratch().number)) scratch_ = ComObject();
   books_.clear();
   marked_ = ComObject();
   copying_ = false;
   gone_ = {};
-  active_ = scratchBook_ = kNoWorkbook;
+  active_ = activeBefore_ = scratchBook_ = kNoWorkbook;
   activeTaken_ = false;
   app_ = ComObject();
+}
+
+void ExcelSession::ReleaseIfAsked() {
+  if (releaseSoon_) Release();
 }
 
 void ExcelSession::Abandon() {
@@ -93,19 +104,21 @@ SheetFault ExcelSession::Visible(bool& visible) {
 // ---- workbooks --------------------------------------------------------------------------------------------
 
 ExcelSession::Book* ExcelSession::Known(Workbook workbook) {
-  const bool isKnown = workbook > 0 && static_cast<std::size_t>(workbook) <= books_.size();
-  return isKnown ? &books_[static_cast<std::size_t>(workbook) - 1] : nullptr;
+  const auto known = books_.find(workbook);
+  return known != books_.end() ? &known->second : nullptr;
 }
 
 Workbook ExcelSession::Take(const ComObject& workbook) {
   if (workbook.IsNothing()) return kNoWorkbook;
-  books_.emplace_back().workbook = workbook;
-  return static_cast<Workbook>(books_.size());
+  books_[++lastBook_].workbook = workbook;
+  return lastBook_;
 }
 
 // What the user has in front is asked once; from there on the operations say what is active.
 SheetFault ExcelSession::TakeActive() {
   if (activeTaken_) return {};
+  // A scratch workbook that could not be closed yet stands in front of what is the user's.
+  if (!app_.IsNothing() && !scratch_.IsNothing()) return FaultOf(kFaultBusy);
   ComObject workbook;
   SheetFault fault = app_.Follow(L"ActiveWorkbook", workbook);
   if (!fault.Good()) return fault;
@@ -127,17 +140,30 @@ SheetFault ExcelSession::ActiveWorkbookName(std::string& name) {
   return book != nullptr ? book->workbook.GetText(L"Name", name) : FaultOf(kFaultNoObject);
 }
 
+// The captions of all workbooks that are known, so that none is taken twice; one that the user has closed has
+// none.
+SheetFault ExcelSession::ReadCaptions() {
+  SheetFault fault = TakeActive();
+  for (const auto& [workbook, book] : books_) {
+    std::string caption;
+    if (fault.Good() && book.caption.empty()) fault = WorkbookWindowCaption(workbook, 1, caption);
+    if (fault.number == kFaultObjectRequired) fault = {};
+  }
+  return fault;
+}
+
 SheetFault ExcelSession::WorkbooksActivate(const std::string& caption) {
-  SheetFault taken = TakeActive();
-  if (!taken.Good()) return taken;
-  const auto known =
-      std::find_if(books_.begin(), books_.end(), [&](const Book& book) { return book.caption == caption; });
+  SheetFault fault = ReadCaptions();
+  if (!fault.Good()) return fault;
+  if (caption.empty()) return FaultOf(kFaultOutOfBounds);
+  const auto known = std::find_if(books_.begin(), books_.end(),
+                                  [&](const auto& book) { return book.second.caption == caption; });
   if (known != books_.end()) {
-    active_ = static_cast<Workbook>(known - books_.begin()) + 1;
+    active_ = known->first;
     return {};
   }
   ComObject workbook;
-  SheetFault fault = WorkbookOfCaption(caption, workbook);
+  fault = WorkbookOfCaption(caption, workbook);
   if (!fault.Good()) return fault;
   active_ = Take(workbook);
   Known(active_)->caption = caption;
@@ -195,11 +221,23 @@ SheetFault ExcelSession::WorkbookWindowCaption(Workbook workbook, int index, std
   return fault;
 }
 
-// The scratch workbook's window counts as the first one, whatever the user has clicked on since.
+// The caption of the active workbook, empty when there is none.
+SheetFault ExcelSession::FirstCaption(std::string& caption) {
+  SheetFault fault = TakeActive();
+  const Book* book = Known(active_);
+  if (!fault.Good() || book == nullptr) return fault;
+  if (book->caption.empty()) return WorkbookWindowCaption(active_, 1, caption);
+  caption = book->caption;
+  return {};
+}
+
+// The active workbook's window is the first one, whatever the user has clicked on since.
 SheetFault ExcelSession::WindowCaptions(std::vector<std::string>& captions) {
   ComObject windows;
   int count = 0;
-  SheetFault fault = app_.Follow(L"Windows", windows);
+  std::string first;
+  SheetFault fault = FirstCaption(first);
+  if (fault.Good()) fault = app_.Follow(L"Windows", windows);
   if (fault.Good()) fault = windows.GetInteger(L"Count", count);
   for (int index = 1; index <= count && fault.Good(); ++index) {
     ComObject window, workbook;
@@ -209,18 +247,16 @@ SheetFault ExcelSession::WindowCaptions(std::vector<std::string>& captions) {
     const bool isNew = std::find(captions.begin(), captions.end(), caption) == captions.end();
     if (fault.Good() && isNew) captions.push_back(caption);
   }
-  const Book* scratch = Known(scratchBook_);
-  if (!fault.Good() || scratch == nullptr) return fault;
-  const auto place = std::find(captions.begin(), captions.end(), scratch->caption);
+  const auto place = std::find(captions.begin(), captions.end(), first);
   if (place != captions.end()) std::rotate(captions.begin(), place, place + 1);
-  return {};
+  return fault;
 }
 
 // ---- the scratch workbook ---------------------------------------------------------------------------------
 
 SheetFault ExcelSession::WorkbooksAdd() {
   SheetFault fault = TakeActive();
-  if (fault.Good()) fault = CloseScratch();
+  if (fault.Good()) fault = EndCopying();
   int copyMode = 0;
   if (fault.Good()) fault = app_.GetInteger(L"CutCopyMode", copyMode);
   if (!fault.Good()) return fault;
@@ -228,18 +264,22 @@ SheetFault ExcelSession::WorkbooksAdd() {
   if (copyMode != 0) return FaultOf(kFaultBusy);
   ComObject workbooks;
   fault = app_.Follow(L"Workbooks", workbooks);
+  if (fault.Good()) fault = CloseScratch();
   if (fault.Good()) fault = workbooks.Follow(L"Add", scratch_);
   if (!fault.Good()) return fault;
   if (scratch_.IsNothing()) return FaultOf(kFaultApplication);
-  lost_ = {};
-  selection_.clear();
+  selection_ = "A1";
+  written_.clear();
+  activeBefore_ = active_;
   active_ = scratchBook_ = Take(scratch_);
   std::string caption;
-  return WorkbookWindowCaption(scratchBook_, 1, caption);
+  fault = WorkbookWindowCaption(scratchBook_, 1, caption);
+  if (!fault.Good()) static_cast<void>(CloseScratch());
+  return fault;
 }
 
 SheetFault ExcelSession::CloseScratchWindow() {
-  return scratch_.IsNothing() ? FaultOf(kFaultNoObject) : CloseScratch();
+  return app_.IsNothing() || scratch_.IsNothing() ? FaultOf(kFaultNoObject) : CloseScratch();
 }
 
 SheetFault ExcelSession::CloseScratch() {
@@ -247,11 +287,12 @@ SheetFault ExcelSession::CloseScratch() {
   CallArguments arguments;
   arguments.Add(L"SaveChanges", false).Add(L"RouteWorkbook", false);
   SheetFault fault = scratch_.Call(L"Close", arguments);
-  if (!fault.Good()) return fault;
+  const bool isClosedByUser = fault.number == kFaultObjectRequired;
+  if (!fault.Good() && !isClosedByUser) return fault;
   scratch_ = ComObject();
-  if (Book* book = Known(scratchBook_)) book->caption.clear();
-  active_ = scratchBook_ = kNoWorkbook;
-  activeTaken_ = false;
+  if (active_ == scratchBook_) active_ = activeBefore_;
+  books_.erase(scratchBook_);
+  scratchBook_ = kNoWorkbook;
   return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <map>
 #include <string>
 #include <thread>
 #include <vector>
@@ -12,6 +13,12 @@
 
 namespace quorb {
 
+/// A block as the clipboard gives it.
+struct TextOfBlock {
+  std::wstring rows;
+  bool beginsWritten = false;  ///< Its first cell is the one that SetActiveCell wrote.
+};
+
 /// The operations of ExcelLink, as they run on the thread that talks with the application. What each does and
 /// how it fails is told at SheetLink.
 class ExcelSession {
@@ -20,6 +27,12 @@ class ExcelSession {
   void Release();
   /// Releases the application and gives up a scratch workbook that could not be closed.
   void Abandon();
+  /// Asks for a release as soon as the call that is under way has come back. May be called on any thread.
+  void ReleaseSoon() { releaseSoon_ = true; }
+  /// Releases the application if that was asked for.
+  void ReleaseIfAsked();
+  /// 91 without an application.
+  SheetFault Held() const { return FaultOf(app_.IsNothing() ? kFaultNoObject : kFaultNone); }
   /// Does a question of the talk. Once the application is lost, every further one fails with that failure.
   template <typename Question>
   SheetFault Ask(const Question& question) {
@@ -58,7 +71,7 @@ class ExcelSession {
   SheetFault CloseScratchWindow();
 
   SheetFault ActiveSheetName(Workbook workbook, std::string& name);
-  SheetFault ActiveCellText(Workbook workbook, const wchar_t* member, std::string& text);
+  SheetFault ActiveCellFormula(Workbook workbook, std::string& formula);
   SheetFault ActiveCellInteger(Workbook workbook, const wchar_t* member, int& number);
   SheetFault ActiveCellValue(Workbook workbook, CellValue& value);
   SheetFault SetActiveCellFormula(Workbook workbook, const std::string& formula);
@@ -76,7 +89,7 @@ class ExcelSession {
   SheetFault ColumnsSelect(const std::string& columns);
   SheetFault SelectionColumnWidth(double width);
   SheetFault SelectionNumberFormat(const std::string& format);
-  SheetFault BlockText(const std::string& range, std::wstring& text);
+  SheetFault BlockText(const std::string& range, TextOfBlock& text);
 
   /// Looks up the application's process, once while it is attached.
   void LookUpProcess();
@@ -87,6 +100,7 @@ class ExcelSession {
   // A workbook, and what was active in it when it was first asked for.
   struct Book {
     ComObject workbook, windows, window, sheet, cell;
+    ComObject cellRead;  // The one whose formula was read last.
     std::string caption;
   };
 
@@ -102,21 +116,26 @@ class ExcelSession {
   SheetFault FindIn(const ComObject& cells, Workbook workbook, const FindArguments& arguments);
   SheetFault WorkbookOfCaption(const std::string& caption, ComObject& workbook);
   SheetFault ScratchRange(const std::string& range, ComObject& block);
-  SheetFault NoteLoss(const SheetFault& fault);
+  SheetFault TakeView(Book& book);
+  SheetFault FirstCaption(std::string& caption);
+  SheetFault ReadCaptions();
 
   ComObject app_;
   std::atomic<unsigned long> process_ = 0;
-  std::vector<Book> books_;  // Workbook 1 is the first.
+  std::map<Workbook, Book> books_;
+  Workbook lastBook_ = kNoWorkbook;  // No number is given twice, so that one from before a release is none.
   Workbook active_ = kNoWorkbook;
+  Workbook activeBefore_ = kNoWorkbook;  // When the scratch workbook came.
   bool activeTaken_ = false;
 
   ComObject scratch_;
   Workbook scratchBook_ = kNoWorkbook;
-  std::string selection_;  // In the scratch workbook.
-  ComObject marked_;       // The block for the next paste.
-  bool copying_ = false;   // The application holds a block of this program's for copying.
-  SheetFault lost_;        // A block that did not come through.
-  SheetFault gone_;        // How the application was lost.
+  std::string selection_ = "A1";  // In the scratch workbook.
+  std::string written_;           // The cell of it that SetActiveCell wrote.
+  ComObject marked_;              // The block for the next paste.
+  bool copying_ = false;          // The application holds a block of this program's for copying.
+  SheetFault gone_;               // How the application was lost.
+  std::atomic<bool> releaseSoon_ = false;
   ClipboardKeeper clipboard_;
 };
 

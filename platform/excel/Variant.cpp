@@ -28,6 +28,20 @@ std::string ErrorName(SCODE code) {
       return "#NUM!";
     case 2042:
       return "#N/A";
+    case 2043:
+      return "#GETTING_DATA";
+    case 2045:
+      return "#SPILL!";
+    case 2046:
+      return "#CONNECT!";
+    case 2047:
+      return "#BLOCKED!";
+    case 2048:
+      return "#UNKNOWN!";
+    case 2049:
+      return "#FIELD!";
+    case 2050:
+      return "#CALC!";
     default:
       return "#ERROR!";
   }

@@ -56,7 +56,9 @@ void SpecificationBox::focusInEvent(QFocusEvent* event) {
 
 void SpecificationBox::focusOutEvent(QFocusEvent* event) {
   QComboBox::focusOutEvent(event);
-  if (event->reason() == Qt::PopupFocusReason) return;
+  const bool comesBack =
+      event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+  if (comesBack) return;
   ShowColours(false);
   if (currentText() != textEntered_) Enter();
 }

@@ -110,7 +110,7 @@ std::unique_ptr<OutputFile> CreateStagedFile(const std::string& path) {
   RemoveStaleParts(place);
   const std::string part = place.string() + "." + std::to_string(getpid()) + std::string(kPartEnding);
   std::remove(part.c_str());
-  File file(std::fopen(part.c_str(), "wbx"));
+  File file(std::fopen(part.c_str(), "wbxe"));
   if (file == nullptr) return nullptr;
   TakeModeOf(place.string(), file.get());
   std::setvbuf(file.get(), nullptr, _IOFBF, kBufferBytes);

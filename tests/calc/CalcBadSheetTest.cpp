@@ -47,11 +47,12 @@ TEST_F(CalcBadSheet, TextsDatesAndPercentagesAmongTheData) {
                                Row({"[2,5]", "[0.1250000000]", "33"}) + Row({"41", "1", "43"}));
 }
 
-TEST_F(CalcBadSheet, MergedCellsAndRowsThatAreHiddenOrFilteredAwayComeAlong) {
+TEST_F(CalcBadSheet, MergedCellsAndWhatIsHiddenOrFilteredAwayComeAlong) {
   const int document = OpenPlot(kPlain);
   Type(document, 3, 1, "");
   ASSERT_TRUE(User().Merge(document, 0, "A2:A3").Good());
   ASSERT_TRUE(User().HideRows(document, 0, "A4:A4").Good());
+  ASSERT_TRUE(User().HideColumns(document, 0, "C2:C4").Good());
   ASSERT_TRUE(User().FilterRows(document, 0, "B2:C4", 0, 30).Good());
   Settle(document, "T1");
   Load();
@@ -84,6 +85,14 @@ TEST_F(CalcBadSheet, ATitleThatCannotBeComputedLeavesTheFormulaAsItIs) {
   EXPECT_THAT(WrittenFile(), testing::EndsWith(PlotRows()));
 }
 
+// The rows of the file for the first `points` points.
+std::string RowsOf(const std::vector<std::string>& rows, int points) {
+  std::string text;
+  for (int i = 0; i < points; ++i)
+    text += rows[static_cast<std::size_t>(i)];
+  return text;
+}
+
 // A sheet that is filled to its end: 1,048,575 points below a heading. Their numbers have few binary digits.
 TEST_F(CalcBadSheet, TheLongestSheetFits) {
   constexpr int kPoints = 1048575;
@@ -95,13 +104,28 @@ TEST_F(CalcBadSheet, TheLongestSheetFits) {
   ASSERT_TRUE(User().TypeNumbers(document, 0, 2, 1, 3, numbers).Good());
   Settle(document, "T1");
   Load();
-  std::string expected =
-      Header(TitleOf(document), "Sheet1", "=MAX(A2:C1048576)", "1.0000000000", "QuorbExcelPro");
+  std::vector<std::string> rows;
+  rows.reserve(kPoints);
   for (std::size_t i = 0; i < numbers.size(); i += 3)
-    expected += Field(numbers[i]) + "\t" + Field(numbers[i + 1]) + "\t" + Field(numbers[i + 2]) +
-                std::string(14, '\t') + "\r\n";
-  EXPECT_TRUE(WrittenFile() == expected) << WrittenFile().substr(0, 400);
+    rows.push_back(Field(numbers[i]) + "\t" + Field(numbers[i + 1]) + "\t" + Field(numbers[i + 2]) +
+                   std::string(14, '\t') + "\r\n");
+  const std::string title = TitleOf(document);
+  EXPECT_TRUE(WrittenFile() == Header(title, "Sheet1", "=MAX(A2:C1048576)", "1.0000000000", "QuorbExcelPro") +
+                                   RowsOf(rows, kPoints))
+      << WrittenFile().substr(0, 400);
   EXPECT_EQ(LastPoint, kPoints - 1);
+
+  // The search for the end goes down in jumps, the shortest of ten rows: from row 1,048,572 the next one
+  // would leave the sheet.
+  constexpr int kPointsFound = 1048571;
+  files_.contents.clear();
+  Type(document, 1, 20, "=MAX(A2:C2)");
+  Settle(document, "T1");
+  Load();
+  EXPECT_TRUE(WrittenFile() == Header(title, "Sheet1", "=MAX(A2:C1048572)", "1.0000000000", "QuorbExcelPro") +
+                                   RowsOf(rows, kPointsFound))
+      << WrittenFile().substr(0, 400);
+  EXPECT_EQ(LastPoint, kPointsFound - 1);
 }
 
 // In a German office numbers are shown with a comma, and functions have German names.
@@ -146,6 +170,17 @@ TEST_F(CalcGermanSheet, WhereThatIsACommaTheFileHasCommas) {
                 Row({"[2,5000000000]", "[32,0000000000]", "[33,0000000000]"}) +
                 Row({"[41,0000000000]", "[42,0000000000]", "[43,0000000000]"}));
   EXPECT_DOUBLE_EQ(dataXYZT[1][1], 0.005);
+}
+
+TEST_F(CalcGermanSheet, AScaleBelowOneIsReadAsTheSheetShowsIt) {
+  const CommaRegion region;
+  const int document = OpenPlot("=0.5+LEN(\"kmday \"&A3)+MAX(A2:C4)");
+  Type(document, 3, 1, "2.5");
+  Settle(document, "T1");
+  Load();
+  const std::string line = Header(TitleOf(document), "Tabelle1", "=5E-1+LEN(\"kmday 2,5\")+MAX(A2:C4)",
+                                  "0,5000000000", "kmday 2,5");
+  EXPECT_EQ(WrittenFile().substr(0, line.size()), line);
 }
 
 TEST_F(CalcGermanSheet, TheKeywordMayBeAFunctionOfThatLanguage) {

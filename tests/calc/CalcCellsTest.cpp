@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <fstream>
+
 #include "CalcFixture.h"
 
 namespace quorb {
@@ -129,6 +131,60 @@ TEST_F(CalcCells, EvaluatesATitleWithoutTouchingTheSheet) {
   EXPECT_EQ(Evaluated(link, book, "=\"plain\""), "plain");
   EXPECT_EQ(Evaluated(link, book, "=1/0"), "#DIV/0!");
   EXPECT_EQ(StateOf(document), before);
+}
+
+TEST_F(CalcCells, NamesThatTheFormulaDoesNotUseDoNotMatter) {
+  const int document = OpenSheet();
+  ASSERT_TRUE(User().FillNumbers(document, 0, 1, 5, 60000, 4).Good());
+  Type(document, 3, 2, "42");
+  ASSERT_TRUE(User().AddName(document, "Everything", "$Sheet1.$E$1:$H$60000").Good());
+  ASSERT_TRUE(User().AddName(document, "Mission", "$Sheet1.$B$3").Good());
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  EXPECT_EQ(Evaluated(link, book, "=\"Orbit \"&B3"), "Orbit 42");
+  EXPECT_EQ(Evaluated(link, book, "=\"Orbit \"&Mission"), "Orbit 42");
+  CellValue value;
+  bool offered = false;
+  EXPECT_EQ(link.EvaluateAside(book, "=\"\"&SUM(Everything)", value, offered).number, 1004)
+      << "240,000 cells are too many";
+  EXPECT_EQ(link.EvaluateAside(book, "=\"\"&SUM(A1:XFD1048576)", value, offered).number, 1004);
+}
+
+TEST_F(CalcCells, NamesMayNameOtherNames) {
+  const int document = OpenSheet();
+  Type(document, 3, 2, "42");
+  ASSERT_TRUE(User().AddName(document, "Inner", "$Sheet1.$B$3").Good());
+  ASSERT_TRUE(User().AddName(document, "Outer", "Inner*2").Good());
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  EXPECT_EQ(Evaluated(link, book, "=\"v\"&Outer+1"), "v85");
+}
+
+// A file with names that no other document takes.
+TEST_F(CalcCells, ABrokenNameDoesNotMatter) {
+  const std::string path = office_->SocketDirectory() + "/broken.fods";
+  std::ofstream(path) << R"(<?xml version="1.0" encoding="UTF-8"?>
+<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
+ xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0"
+ xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0" office:version="1.2"
+ office:mimetype="application/vnd.oasis.opendocument.spreadsheet"><office:body><office:spreadsheet>
+<table:table table:name="Sheet1"><table:table-row><table:table-cell/></table:table-row>
+<table:table-row><table:table-cell office:value-type="float" office:value="7"/>
+</table:table-row></table:table><table:named-expressions>
+<table:named-range table:name="two words" table:base-cell-address="$Sheet1.$A$1"
+ table:cell-range-address="$Sheet1.$A$2"/>
+<table:named-range table:name="Gone" table:base-cell-address="$Sheet1.$A$1"
+ table:cell-range-address="$Sheet9.$A$1"/>
+<table:named-range table:name="Here" table:base-cell-address="$Sheet1.$A$1"
+ table:cell-range-address="$Sheet1.$A$2"/>
+</table:named-expressions></office:spreadsheet></office:body></office:document>
+)";
+  OpenFile(path);
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  EXPECT_EQ(Evaluated(link, book, "=\"Orbit \"&A2"), "Orbit 7");
+  EXPECT_EQ(Evaluated(link, book, "=\"Orbit \"&Here"), "Orbit 7");
+  EXPECT_THAT(Evaluated(link, book, "=\"Orbit \"&Gone"), testing::StartsWith("#"));
 }
 
 TEST_F(CalcCells, AProtectedSheetIsReadLikeAnyOther) {

@@ -107,6 +107,30 @@ TEST_F(CalcDisplay, HalfTypedTextIsNeitherTakenOverNorLost) {
   EXPECT_EQ(Shown(7, 2), "1234567") << "the user could type on";
 }
 
+// A dialog that waits for the user, and goes on waiting.
+TEST_F(CalcDisplay, AnOpenDialogHoldsNeitherALoadNorAPoll) {
+  const int windows = Windows();
+  Drive("key ctrl+1");
+  const auto deadline = std::chrono::steady_clock::now() + milliseconds(10000);
+  while (Windows() == windows && std::chrono::steady_clock::now() < deadline)
+    std::this_thread::sleep_for(milliseconds(100));
+  ASSERT_EQ(Windows(), windows + 1) << "the dialog did not open";
+  std::this_thread::sleep_for(milliseconds(500));
+  Load();
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(link.GetRunningObject().Good());
+  const auto begin = std::chrono::steady_clock::now();
+  ASSERT_TRUE(link.GetRunningObject().Good());
+  Workbook book = kNoWorkbook;
+  ASSERT_TRUE(link.ActiveWorkbook(book).Good());
+  std::string text;
+  EXPECT_TRUE(link.ActiveCellFormula(book, text).Good());
+  EXPECT_EQ(text, "old");
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, milliseconds(100));
+  EXPECT_EQ(Windows(), windows + 1);
+  Drive("key Escape");
+}
+
 // The user ends the office while the watcher asks it.
 TEST_F(CalcDisplay, TheUserCanEndTheOfficeWhileItIsAsked) {
   std::atomic<bool> ended{false};

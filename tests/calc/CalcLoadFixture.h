@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <functional>
 #include <regex>
 #include <string>
 #include <vector>
@@ -51,12 +52,15 @@ class CalcLoadFixture : public CalcFixture {
     EXPECT_TRUE(User().SetModified(document, false).Good());
   }
 
+  virtual CalcLinkOptions Options() const { return office_->Options(); }
+
   /// Loads the plot from the office.
   void Load() {
     const std::vector<UserState> before = States();
     {
-      CalcLink link(office_->Options());
+      CalcLink link(Options());
       SetSheetLink(&link);
+      if (atStart_) atStart_(link);
       CommandFileMode = 0;
       DEJADRAW = DEJARESET = FileMode = 0;
       LoadPlot();
@@ -118,6 +122,8 @@ class CalcLoadFixture : public CalcFixture {
     return text.data();
   }
 
+  /// What happens when a load is about to begin.
+  std::function<void(CalcLink&)> atStart_;
   MemoryFiles files_;
   FakeLoaderWindow window_;
   ScriptedDialogs dialogs_;
@@ -139,7 +145,9 @@ class CalcLoadFixture : public CalcFixture {
     EXPECT_EQ(now.modified, before.modified);
     EXPECT_EQ(now.undo, before.undo);
     EXPECT_EQ(now.clipboard, before.clipboard);
+    EXPECT_EQ(now.clipboardFormats, before.clipboardFormats);
     EXPECT_EQ(now.documents, before.documents);
+    EXPECT_EQ(now.loaded, before.loaded);
   }
 };
 

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <fstream>
+
 #include "CalcFixture.h"
 
 namespace quorb {
@@ -71,6 +73,40 @@ TEST_F(CalcWorkbooks, TellsNameVersionSheetAndCell) {
   ASSERT_TRUE(link.ActiveCellColumn(book, number).Good());
   EXPECT_EQ(number, 3);
   EXPECT_EQ(Formula(link, book), "12.5");
+}
+
+// The view of a file that is opened on its third sheet knows nothing of the others yet.
+TEST_F(CalcWorkbooks, TheCursorOfALaterSheetIsKnownBeforeTheOthersWereShown) {
+  const std::string path = office_->SocketDirectory() + "/later.fods";
+  std::ofstream(path) << R"(<?xml version="1.0" encoding="UTF-8"?>
+<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
+ xmlns:table="urn:oasis:names:tc:opendocument:xmlns:table:1.0"
+ xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
+ xmlns:ooo="http://openoffice.org/2004/office"
+ xmlns:config="urn:oasis:names:tc:opendocument:xmlns:config:1.0" office:version="1.2"
+ office:mimetype="application/vnd.oasis.opendocument.spreadsheet"><office:settings>
+<config:config-item-set config:name="ooo:view-settings"><config:config-item-map-indexed config:name="Views">
+<config:config-item-map-entry><config:config-item config:name="ViewId" config:type="string">view1</config:config-item>
+<config:config-item-map-named config:name="Tables"><config:config-item-map-entry config:name="Third">
+<config:config-item config:name="CursorPositionX" config:type="int">1</config:config-item>
+<config:config-item config:name="CursorPositionY" config:type="int">1</config:config-item>
+</config:config-item-map-entry></config:config-item-map-named>
+<config:config-item config:name="ActiveTable" config:type="string">Third</config:config-item>
+</config:config-item-map-entry></config:config-item-map-indexed></config:config-item-set></office:settings>
+<office:body><office:spreadsheet><table:table table:name="First"/><table:table table:name="Second"/>
+<table:table table:name="Third"><table:table-row><table:table-cell/></table:table-row>
+<table:table-row><table:table-cell/><table:table-cell office:value-type="string"><text:p>there</text:p>
+</table:table-cell></table:table-row></table:table></office:spreadsheet></office:body></office:document>
+)";
+  const int opened = OpenFile(path);
+  CalcLink link(office_->Options());
+  const Workbook book = Attach(link);
+  std::string sheet;
+  ASSERT_TRUE(link.ActiveSheetName(book, sheet).Good());
+  EXPECT_EQ(sheet, "Third");
+  const std::string viewData = StateOf(opened).viewData;
+  EXPECT_THAT(viewData, testing::HasSubstr(";;")) << "no sheet is unknown to this view";
+  EXPECT_EQ(Formula(link, book), "there") << viewData;
 }
 
 TEST_F(CalcWorkbooks, TheCursorOfASelectionOfSeveralCellsIsKnown) {
@@ -163,6 +199,57 @@ TEST_F(CalcWorkbooks, NothingWritesToTheUsersWorkbook) {
   EXPECT_EQ(StateOf(document), before);
 }
 
+// What the other tests go by when they look for documents that were left behind.
+TEST_F(CalcWorkbooks, TheUserSeesDocumentsWithoutAWindowToo) {
+  const int document = OpenSheet();
+  const UserState before = StateOf(document);
+  OpenHiddenSheet();
+  const UserState hidden = StateOf(document);
+  EXPECT_EQ(hidden.documents, before.documents + 1);
+  EXPECT_EQ(hidden.loaded, before.loaded + 1);
+  int windowless = 0;
+  ASSERT_TRUE(User().OpenSheetWithoutWindow(windowless).Good());
+  const UserState after = StateOf(document);
+  EXPECT_TRUE(User().Close(windowless).Good());
+  EXPECT_EQ(after.documents, hidden.documents);
+  EXPECT_EQ(after.loaded, hidden.loaded + 1);
+}
+
+TEST_F(CalcWorkbooks, OneHiddenWindowIsShownAndNoOther) {
+  const int first = OpenHiddenSheet();
+  const int second = OpenHiddenSheet();
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(link.GetRunningObject().Good());
+  bool visible = true;
+  ASSERT_TRUE(link.Visible(visible).Good());
+  EXPECT_FALSE(visible);
+  ASSERT_TRUE(link.SetVisible(true).Good());
+  ASSERT_TRUE(link.Visible(visible).Good());
+  EXPECT_TRUE(visible);
+  bool firstShown = false, secondShown = false;
+  ASSERT_TRUE(User().IsShown(first, firstShown).Good());
+  ASSERT_TRUE(User().IsShown(second, secondShown).Good());
+  EXPECT_NE(firstShown, secondShown);
+}
+
+// A preview has no cells: it is busy, and other workbooks can be read all the same.
+TEST_F(CalcWorkbooks, AWorkbookInPreviewIsBusyAndTheOtherIsNot) {
+  const int first = OpenSheet();
+  Type(first, 1, 1, "first");
+  const int second = OpenSheet();
+  Type(second, 1, 1, "second");
+  CalcLink link(office_->Options());
+  ASSERT_TRUE(User().ToFront(first).Good());
+  const std::string caption = Caption(link, Attach(link));
+  ASSERT_TRUE(User().Command(first, ".uno:PrintPreview").Good());
+  ASSERT_TRUE(User().ToFront(second).Good());
+  const Workbook book = Attach(link);
+  EXPECT_EQ(link.WorkbooksActivate(caption).number, kFaultBusy);
+  EXPECT_EQ(Formula(link, book), "second");
+  CellValue value;
+  EXPECT_TRUE(link.CellsValue(book, 1, 1, value).Good());
+}
+
 TEST_F(CalcWorkbooks, QuitIsRefusedWhileADocumentIsOpen) {
   OpenSheet();
   CalcLink link(office_->Options());
@@ -185,14 +272,14 @@ TEST_F(CalcWorkbooks, AfterTheReleaseNothingIsThere) {
   EXPECT_EQ(link.BlockText("A1:B2", sink).number, 91);
 }
 
-// The median of many polls: the machine may be busy with other tests.
+// Half of many polls, and nearly all of them: at a few the machine may be busy with other things.
 TEST_F(CalcWorkbooks, APollTakesLessThanFiveMilliseconds) {
   const int document = OpenSheet();
   Type(document, 1, 1, "=MAX(A2:C60)");
   CalcLink link(office_->Options());
   Attach(link);
   std::vector<double> times;
-  for (int i = 0; i < 41; ++i) {
+  for (int i = 0; i < 101; ++i) {
     const auto begin = std::chrono::steady_clock::now();
     ASSERT_TRUE(link.GetRunningObject().Good());
     std::string text;
@@ -207,9 +294,11 @@ TEST_F(CalcWorkbooks, APollTakesLessThanFiveMilliseconds) {
     times.push_back(
         std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count());
   }
-  std::nth_element(times.begin(), times.begin() + 20, times.end());
-  RecordProperty("medianMilliseconds", std::to_string(times[20]));
-  EXPECT_LT(times[20], 5.0);
+  std::sort(times.begin(), times.end());
+  RecordProperty("medianMilliseconds", std::to_string(times[50]));
+  RecordProperty("percentile95Milliseconds", std::to_string(times[95]));
+  EXPECT_LT(times[50], 5.0);
+  EXPECT_LT(times[95], 15.0);
 }
 
 }  // namespace

@@ -100,8 +100,10 @@ TEST_F(InspectSheetTest, AFileThatCannotBeWrittenIsToldByItsName) {
   run_.Write("file", "");
   const ProgramOutcome outcome = Inspect("-o file/plot.qbv");
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_THAT(outcome.err,
-              EndsWith("the sheet does not plot: the data file file/plot.qbv could not be written\n"));
+  EXPECT_THAT(
+      outcome.err,
+      EndsWith("the sheet does not plot: the data file file/plot.qbv was not written: file/plot.qbv cannot "
+               "be written\n"));
 }
 
 TEST_F(InspectSheetTest, ASheetWithoutASpecificationIsToldByItsName) {

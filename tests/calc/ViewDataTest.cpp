@@ -23,6 +23,34 @@ TEST(ViewData, LongSheetsPartTheirNumbersByPlus) {
   EXPECT_EQ(column, 17);
 }
 
+TEST(ViewData, TheSheetsThatWereNotShownYetHaveEmptyParts) {
+  const std::string text = "100/60/0;2;tw:270;;;5/7/0/0/0/0/2/0/0/0/0";
+  int row = 0, column = 0;
+  CursorCell(text, 2, row, column);
+  EXPECT_EQ(row, 8);
+  EXPECT_EQ(column, 6);
+  for (const int sheet : {0, 1, 3}) {
+    row = column = 9;
+    CursorCell(text, sheet, row, column);
+    EXPECT_EQ(row, 1) << sheet;
+    EXPECT_EQ(column, 1) << sheet;
+  }
+}
+
+TEST(ViewData, AnEmptyPartStandsBetweenOthersToo) {
+  int row = 0, column = 0;
+  CursorCell("100/60/0;2;tw:270;1/2/0/0/0/0/2/0/0/0/0;;5/7/0/0/0/0/2/0/0/0/0", 2, row, column);
+  EXPECT_EQ(row, 8);
+  EXPECT_EQ(column, 6);
+}
+
+TEST(ViewData, TheWidthOfTheTabBarMayBeMissing) {
+  int row = 0, column = 0;
+  CursorCell("100/60/0;1;;3/4/0/0/0/0/2/0/0/0/0", 1, row, column);
+  EXPECT_EQ(row, 5);
+  EXPECT_EQ(column, 4);
+}
+
 TEST(ViewData, WithoutAnEntryTheCursorIsAtTheBeginning) {
   int row = 9, column = 9;
   CursorCell("", 0, row, column);

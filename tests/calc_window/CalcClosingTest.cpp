@@ -1,11 +1,10 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <thread>
+#include <vector>
 
 #include "ProgramRun.h"
 #include "RealOffice.h"
@@ -20,6 +19,9 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
+// In milliseconds, for a busy machine too: what is under way takes many seconds more.
+constexpr double kAtOnce = 3000;
+
 /// The real program on a display and with settings of its own, and a real Calc.
 class CalcClosing : public testing::Test {
  protected:
@@ -30,9 +32,6 @@ class CalcClosing : public testing::Test {
     ASSERT_TRUE(display_.Works()) << "Xvfb did not start";
     ASSERT_TRUE(office_->Ready());
     ASSERT_TRUE(User().OpenSheet(document_).Good());
-    // The program takes the newest office of those that run.
-    const timespec later[2] = {{std::time(nullptr) + 3600, 0}, {std::time(nullptr) + 3600, 0}};
-    ASSERT_EQ(utimensat(AT_FDCWD, office_->Running().socketPath.c_str(), later, 0), 0);
     std::filesystem::create_directories(run_.File("config/QuorbExcelPro"));
     std::filesystem::create_directories(run_.File("images"));
     run_.Write("config/QuorbExcelPro/QuorbExcelProSettings.conf",
@@ -49,9 +48,9 @@ class CalcClosing : public testing::Test {
   std::unique_ptr<Background> StartViewer() const {
     return std::make_unique<Background>(
         std::vector<std::string>{QUORB_VIEWER_PROGRAM},
-        std::vector<std::string>{"DISPLAY=" + display_.Name(), "QT_QPA_PLATFORM=xcb",
-                                 "XDG_CONFIG_HOME=" + run_.File("config"),
-                                 "XDG_DATA_HOME=" + run_.File("data")});
+        std::vector<std::string>{
+            "DISPLAY=" + display_.Name(), "QT_QPA_PLATFORM=xcb", "XDG_CONFIG_HOME=" + run_.File("config"),
+            "XDG_DATA_HOME=" + run_.File("data"), "QUORB_OFFICE_SOCKETS=" + office_->SocketDirectory()});
   }
   std::string Drive(const std::string& words) const {
     return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " xdotool " + words).out;
@@ -79,6 +78,14 @@ class CalcClosing : public testing::Test {
     return count;
   }
 
+  /// Waits until the program has begun its data file.
+  bool FileIsBegun() const {
+    const auto limit = steady_clock::now() + std::chrono::seconds(60);
+    while (FilesWritten() == 0 && steady_clock::now() < limit)
+      std::this_thread::sleep_for(milliseconds(2));
+    return FilesWritten() != 0;
+  }
+
   ProgramRun run_;
   VirtualDisplay display_{1280, 900};
   int document_ = 0;
@@ -98,7 +105,7 @@ TEST_F(CalcClosing, WhileItWaitsForASpecificationTheProgramEndsAtOnce) {
   KeepScreen("program waits");
   const double time = Close(*viewer, window);
   std::cout << "closed while waiting: " << time << " ms\n";
-  EXPECT_LT(time, 1000);
+  EXPECT_LT(time, kAtOnce);
   EXPECT_EQ(State(), before) << "also the number of documents";
   EXPECT_EQ(FilesWritten(), 0U) << "it had not loaded anything";
 }
@@ -113,17 +120,26 @@ TEST_F(CalcClosing, WhileItPoursTheProgramEndsAtOnce) {
           .Good());
   ASSERT_TRUE(User().Select(document_, 0, "B3:C4").Good());
   const UserState before = State();
-  for (const int wait : {300, 900, 1500}) {
+  struct Moment {
+    std::string name;
+    std::function<void()> reached;
+  };
+  const std::vector<Moment> moments = {
+      {"at its start", [] {}},
+      {"as it copies", [] { std::this_thread::sleep_for(milliseconds(500)); }},
+      {"as the text comes", [this] { EXPECT_TRUE(FileIsBegun()); }},
+  };
+  for (const Moment& moment : moments) {
     const auto viewer = StartViewer();
     const unsigned long window = Window();
     ASSERT_NE(window, 0U);
-    std::this_thread::sleep_for(milliseconds(wait));
-    if (wait == 900) KeepScreen("program pours");
+    moment.reached();
     const double time = Close(*viewer, window);
-    std::cout << "closed " << wait << " ms into the load: " << time << " ms\n";
-    EXPECT_LT(time, 1000);
-    EXPECT_EQ(State(), before) << "also the number of documents";
-    EXPECT_EQ(FilesWritten(), 0U) << "it was still pouring, and the file that it began is gone";
+    std::cout << "closed " << moment.name << ": " << time << " ms\n";
+    EXPECT_LT(time, kAtOnce) << moment.name;
+    EXPECT_EQ(State(), before) << "also the number of documents, " << moment.name;
+    EXPECT_EQ(FilesWritten(), 0U) << "it was still pouring, and the file that it began is gone, "
+                                  << moment.name;
   }
 }
 

@@ -93,7 +93,7 @@ TEST_F(CalcGone, CalcIsFrozenAndThaws) {
   EXPECT_EQ(LoadsStarted, 2);
   Screen("frozen");
   office_->Thaw();
-  ASSERT_TRUE(office_->TakeInHand());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return office_->TakeInHand(); }, 15000));
   Closed(document_);
   int document = 0;
   ASSERT_TRUE(User().OpenSheet(document).Good());
@@ -106,10 +106,10 @@ TEST_F(CalcGone, CalcIsFrozenAndThaws) {
 }
 
 TEST_F(CalcGone, CalcFreezesWhileItIsPoured) {
-  ASSERT_TRUE(User().FillNumbers(document_, 0, 2, 7, 100000, 4).Good());
+  ASSERT_TRUE(User().FillNumbers(document_, 0, 2, 7, 300000, 4).Good());
   StartWatching();
   StartHeartbeat();
-  Type(document_, 1, 6, "=0.01+LEN(\"Second kmday\")+MAX(G2:I100001)+MAX(J2:J100001)");
+  Type(document_, 1, 6, "=0.01+LEN(\"Second kmday\")+MAX(G2:I300001)+MAX(J2:J300001)");
   office_->LetGo();
   auto frozen = Clock::now();
   const Script script({{[] { return LoadsStarted == 3; },

@@ -46,7 +46,7 @@ class CalcLive : public CalcWindow {
 TEST_F(CalcLive, AnEditOfTheSpecificationIsOnTheScreenWithinASecondOfTheLookThatSeesIt) {
   StartWatching();
   EXPECT_EQ(LastPoint, 3);
-  const QImage before = PlotOnScreen("watching before");
+  const QImage before = SettledPlot("watching before");
   const std::size_t looks = polls.size();
   Type(document_, 1, 6, Formula("Second", 7));
   ASSERT_TRUE(WaitUntilShown(3));
@@ -54,13 +54,13 @@ TEST_F(CalcLive, AnEditOfTheSpecificationIsOnTheScreenWithinASecondOfTheLookThat
   ExpectOnScreenWithinASecond(3);
   EXPECT_EQ(LastPoint, 5);
   EXPECT_EQ(MessageUserToPlot, "Second");
-  EXPECT_NE(PlotOnScreen("watching after"), before);
+  EXPECT_NE(SettledPlot("watching after"), before);
 }
 
 TEST_F(CalcLive, AnEditOfTheDataIsOnTheScreenWithinASecondOfTheSecondChange) {
   Select(document_, "A10");
   StartWatching();
-  const QImage before = PlotOnScreen("data before");
+  const QImage before = SettledPlot("data before");
   Select(document_, "C7");
   WaitForPolls(2);
   EXPECT_EQ(FormulaArmed, 1);
@@ -69,7 +69,7 @@ TEST_F(CalcLive, AnEditOfTheDataIsOnTheScreenWithinASecondOfTheSecondChange) {
   Type(document_, 5, 1, "90000");
   ASSERT_TRUE(WaitUntilShown(3));
   ExpectOnScreenWithinASecond(3);
-  EXPECT_NE(PlotOnScreen("data after"), before);
+  EXPECT_NE(SettledPlot("data after"), before);
 }
 
 TEST_F(CalcLive, TheWholeStateTableIsWalkedByRealEdits) {
@@ -166,7 +166,7 @@ TEST_F(CalcLive, UpdateLoadsWhatTheWatcherDoesNotSeeAndEndsInteractive) {
   Type(document_, 2, 1, "25000");
   WaitForPolls(2);
   EXPECT_EQ(LoadsStarted, 2);
-  const QImage before = PlotOnScreen("update before");
+  const QImage before = SettledPlot("update before");
   ClickMenu("&OptionsInteractive");
   ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
   QTest::qWait(200);
@@ -175,7 +175,7 @@ TEST_F(CalcLive, UpdateLoadsWhatTheWatcherDoesNotSeeAndEndsInteractive) {
   ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
   ClickMenu("&UpdateExcel");
   ASSERT_TRUE(WaitUntilShown(3));
-  EXPECT_NE(PlotOnScreen("update after"), before);
+  EXPECT_NE(SettledPlot("update after"), before);
   EXPECT_FALSE(frmMain->mnuOinteractive.checked);
   EXPECT_FALSE(frmMain->mnuOptions.enabled);
   EXPECT_EQ(USERFLAG.InteractiveExcel, 0);
@@ -250,7 +250,7 @@ TEST_F(CalcLive, ALoadOfTenThousandRowsHoldsTheWindowNoLongerThanItself) {
   const double shown = Milliseconds(ShownAt(3) - poll.end);
   std::cout << "load of 10,000 rows " << load << " ms, on the screen " << shown
             << " ms behind it; events waited " << Milliseconds(longestBeat) << " ms at most\n";
-  EXPECT_LT(Milliseconds(longestBeat), load);
+  EXPECT_LT(Milliseconds(longestBeat), 0.7 * load) << "events come through while it loads";
   EXPECT_LT(shown, 500);
 }
 

@@ -81,6 +81,7 @@ class CalcWindow : public OpenWindow {
   CalcLink* Link() {
     CalcLinkOptions options = office_->Options();
     options.pollPatience = CalcLinkOptions().pollPatience;
+    options.attachPatience = CalcLinkOptions().attachPatience;
     link_ = std::make_unique<CalcLink>(options);
     return link_.get();
   }
@@ -207,6 +208,18 @@ class CalcWindow : public OpenWindow {
   /// The part of it in which the plot stands.
   QImage PlotOnScreen(const std::string& name) const {
     return Screen(name).copy(QRect(plot->mapToGlobal(QPoint(0, 0)), plot->size()));
+  }
+  /// The same once it has come to rest.
+  QImage SettledPlot(const std::string& name) const {
+    QImage last = PlotOnScreen(name);
+    const bool isAtRest = QTest::qWaitFor(
+        [&] {
+          QTest::qWait(150);
+          return std::exchange(last, PlotOnScreen(name)) == last;
+        },
+        5000);
+    EXPECT_TRUE(isAtRest) << name << ": the plot never comes to rest";
+    return last;
   }
 
   // ---- responsiveness

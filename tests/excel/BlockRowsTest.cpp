@@ -18,7 +18,7 @@ class TextSink : public BlockTextSink {
 
 std::string RowsOf(std::wstring_view text) {
   TextSink sink;
-  CHECK_EQUAL(GiveBlockRows(text, sink).number, 0);
+  CHECK_EQUAL(GiveBlockRows(text, true, sink).number, 0);
   return sink.text;
 }
 
@@ -32,6 +32,12 @@ EXCEL_TEST(BlockRows, PlainCellsComeAsTheyAre) {
 EXCEL_TEST(BlockRows, TheFirstCellKeepsItsTabsAndQuotes) {
   CHECK_EQUAL(RowsOf(L"\"From: \tsay \"\"A\"\"\"\t\t\r\n1\t2\r\n"),
               "\"From: \tsay \"\"A\"\"\"\t\t\r\n1\t2\r\n");
+}
+
+EXCEL_TEST(BlockRows, AFirstCellOfTheSheetIsACellAsAllOthers) {
+  TextSink sink;
+  CHECK(GiveBlockRows(L"\"a\tb\"\t2\r\n", false, sink).Good());
+  CHECK_EQUAL(sink.text, "a b\t2\r\n");
 }
 
 EXCEL_TEST(BlockRows, TabsAndLineEndsInsideOtherCellsBecomeBlanks) {
@@ -53,7 +59,7 @@ EXCEL_TEST(BlockRows, ManyRowsComeInPiecesOfWholeRows) {
     expected += std::to_string(row) + "\té\r\n";
   }
   TextSink sink;
-  CHECK_EQUAL(GiveBlockRows(text, sink).number, 0);
+  CHECK_EQUAL(GiveBlockRows(text, true, sink).number, 0);
   CHECK(sink.text == expected);
   CHECK(sink.pieces > 2);
 }
@@ -61,7 +67,7 @@ EXCEL_TEST(BlockRows, ManyRowsComeInPiecesOfWholeRows) {
 EXCEL_TEST(BlockRows, ASinkThatWantsNoMoreEndsItWith5) {
   TextSink sink;
   sink.most = 1;
-  CHECK_EQUAL(GiveBlockRows(L"a\r\n", sink).number, kFaultBadCall);
+  CHECK_EQUAL(GiveBlockRows(L"a\r\n", true, sink).number, kFaultBadCall);
 }
 
 }  // namespace

@@ -45,6 +45,14 @@ EXCEL_TEST(CallFaults, AServerThatRefusesDiesOrIsGoneHasItsNumber) {
   CHECK_EQUAL(NumberOf(0x800706B5), -2147417848);
   CHECK_EQUAL(NumberOf(0x800401FD), -2147417848);
   CHECK_EQUAL(NumberOf(0x800706BE), -2147023170);
+  CHECK_EQUAL(NumberOf(0x80010007), -2147417848);
+  CHECK_EQUAL(NumberOf(0x80010012), -2147417848);
+  CHECK_EQUAL(NumberOf(0x80010006), -2147417848);
+  CHECK_EQUAL(NumberOf(0x80010113), -2147417848);
+  CHECK_EQUAL(NumberOf(0x80010114), -2147417848);
+  CHECK_EQUAL(NumberOf(0x800706BF), -2147023170);
+  CHECK_EQUAL(NumberOf(0x800706BB), -2147418111);
+  CHECK_EQUAL(NumberOf(0x800401A8), 424);
   CHECK_EQUAL(NumberOf(0x80004005), static_cast<int>(0x80004005));
 }
 
@@ -83,6 +91,22 @@ EXCEL_TEST(Variant, TextsKeepEveryCharacter) {
   const std::string text = "Orbite é € \xF0\x9F\x9B\xB0 \t\"x\"";
   CHECK_EQUAL(Variant(text).Text(), text);
   CHECK_EQUAL(NarrowText(WideText("\xFF")), "\xEF\xBF\xBD");
+}
+
+EXCEL_TEST(Variant, ErrorsHaveTheNamesThatTheSheetShows) {
+  const auto name = [](unsigned number) {
+    Variant error;
+    error.ToFill()->vt = VT_ERROR;
+    const_cast<VARIANT&>(error.Held()).scode = static_cast<SCODE>(0x800A0000u | number);
+    return error.Text();
+  };
+  CHECK_EQUAL(name(2000), "#NULL!");
+  CHECK_EQUAL(name(2015), "#VALUE!");
+  CHECK_EQUAL(name(2029), "#NAME?");
+  CHECK_EQUAL(name(2043), "#GETTING_DATA");
+  CHECK_EQUAL(name(2045), "#SPILL!");
+  CHECK_EQUAL(name(2049), "#FIELD!");
+  CHECK_EQUAL(name(2050), "#CALC!");
 }
 
 EXCEL_TEST(Variant, MoneyAndDatesAreNumbers) {

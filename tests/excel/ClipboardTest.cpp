@@ -15,7 +15,7 @@ namespace {
 EXCEL_TEST(Clipboard, TextIsPutBackAsItWas) {
   SetClipboard(CF_UNICODETEXT, L"the user's é text");
   ClipboardKeeper keeper;
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   CHECK(ClearClipboard().Good());
   CHECK_EQUAL(ClipboardText(), "none");
   keeper.PutBack(0);
@@ -26,7 +26,7 @@ EXCEL_TEST(Clipboard, MarkedUpTextIsPutBackBesideThePlainOne) {
   const unsigned markup = RegisterClipboardFormatW(L"HTML Format");
   SetClipboard(markup, L"<b>bold</b>");
   ClipboardKeeper keeper;
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   CHECK(ClearClipboard().Good());
   CHECK(IsClipboardFormatAvailable(markup) == 0);
   keeper.PutBack(0);
@@ -37,7 +37,7 @@ EXCEL_TEST(Clipboard, MarkedUpTextIsPutBackBesideThePlainOne) {
 EXCEL_TEST(Clipboard, AnEmptyOneIsEmptyAgain) {
   CHECK(ClearClipboard().Good());
   ClipboardKeeper keeper;
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   SetClipboard(CF_UNICODETEXT, L"a block");
   keeper.PutBack(0);
   CHECK_EQUAL(ClipboardText(), "none");
@@ -46,9 +46,9 @@ EXCEL_TEST(Clipboard, AnEmptyOneIsEmptyAgain) {
 EXCEL_TEST(Clipboard, ItIsKeptOnceAndPutBackOnce) {
   SetClipboard(CF_UNICODETEXT, L"first");
   ClipboardKeeper keeper;
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   SetClipboard(CF_UNICODETEXT, L"a block");
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   keeper.PutBack(0);
   CHECK_EQUAL(ClipboardText(), "first");
   SetClipboard(CF_UNICODETEXT, L"new");
@@ -68,7 +68,7 @@ EXCEL_TEST(Clipboard, WithoutTextItFailsWithItsName) {
 EXCEL_TEST(Clipboard, WhatAnotherProgramHasCopiedMeanwhileStays) {
   SetClipboard(CF_UNICODETEXT, L"old");
   ClipboardKeeper keeper;
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   ServerRun& server = FreshServer();
   server.AddBook("Book1.xlsx");
   server.SetText(1, 1, "copied by the user");
@@ -78,7 +78,7 @@ EXCEL_TEST(Clipboard, WhatAnotherProgramHasCopiedMeanwhileStays) {
   CHECK(ReadClipboardText(server.Process(), text).Good());
   keeper.PutBack(GetCurrentProcessId());
   CHECK_EQUAL(ClipboardText(), "copied by the user\r\n");
-  keeper.Keep();
+  CHECK(keeper.Keep().Good());
   keeper.PutBack(server.Process());
   CHECK_EQUAL(ClipboardText(), "copied by the user\r\n");
 }
@@ -87,9 +87,33 @@ EXCEL_TEST(Clipboard, OneThatAnotherThreadHoldsOpenFails) {
   HANDLE held = HoldClipboard();
   std::wstring text;
   CHECK_EQUAL(ReadClipboardText(0, text).number, kFaultClipboard);
+  ClipboardKeeper keeper;
+  CHECK_EQUAL(keeper.Keep().number, kFaultClipboard);
   LetClipboardGo(held);
   SetClipboard(CF_UNICODETEXT, L"again");
   CHECK(ReadClipboardText(0, text).Good());
+}
+
+EXCEL_TEST(Clipboard, WhatCouldNotBePutBackIsPutBackLater) {
+  SetClipboard(CF_UNICODETEXT, L"the user's");
+  ClipboardKeeper keeper;
+  CHECK(keeper.Keep().Good());
+  SetClipboard(CF_UNICODETEXT, L"a block");
+  HANDLE held = HoldClipboard();
+  keeper.PutBack(0);
+  LetClipboardGo(held);
+  CHECK_EQUAL(ClipboardText(), "a block");
+  keeper.PutBack(0);
+  CHECK_EQUAL(ClipboardText(), "the user's");
+}
+
+EXCEL_TEST(Clipboard, OneThatWasNotUsedIsNotFilledAgain) {
+  SetClipboard(CF_UNICODETEXT, L"the user's");
+  const DWORD state = GetClipboardSequenceNumber();
+  ClipboardKeeper keeper;
+  CHECK(keeper.Keep().Good());
+  keeper.PutBack(0);
+  CHECK_EQUAL(GetClipboardSequenceNumber(), state);
 }
 
 }  // namespace

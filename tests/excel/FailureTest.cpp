@@ -186,6 +186,65 @@ EXCEL_TEST(Failures, ALinkEndsWhileItsCallHangs) {
   Sleep(1100);
 }
 
+EXCEL_TEST(Failures, AReleaseTakesPlaceWhenTheCallThatHangsHasComeBack) {
+  AttachedLink at(300);
+  at.server.Mode("hang", "Add", 1000);
+  CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
+  at.link->ReleaseObject();
+  Sleep(1500);
+  CHECK_EQUAL(at.server.Log(), "Add Scratch1\nClose Scratch1 unsaved\n");
+  CHECK_EQUAL(at.server.State(), at.stateBefore);
+  CHECK_EQUAL(NumberOfPoll(*at.link), 91);
+  CHECK_EQUAL(NumberOfLoadStep(*at.link), 91);
+}
+
+EXCEL_TEST(Failures, ALinkThatEndsWhileItsCallHangsLeavesNoWorkbook) {
+  AttachedLink at(300);
+  at.server.Mode("hang", "Add", 1000);
+  CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
+  at.link.reset();
+  Sleep(1500);
+  CHECK_EQUAL(at.server.State(), at.stateBefore);
+}
+
+EXCEL_TEST(Failures, AReleaseBetweenTwoPiecesOfTheTextEndsIt) {
+  AttachedLink at;
+  ScriptedDialogs dialogs;
+  CHECK(at.link->WorkbooksAdd().Good());
+  KeptText sink;
+  std::size_t taken = 0;
+  dialogs.onPump = [&] {
+    if (sink.text.empty() || taken != 0) return;
+    taken = sink.text.size();
+    at.link->ReleaseObject();
+  };
+  CHECK_EQUAL(at.link->BlockText("A1:Q4000", sink).number, 91);
+  CHECK(taken > 0);
+  CHECK_EQUAL(sink.text.size(), taken);
+  CHECK_EQUAL(at.server.State(), at.stateBefore);
+}
+
+// The steps with which the program puts back what it moved, in an event of a step that hangs.
+EXCEL_TEST(Failures, AStepThatHangsIsWaitedForOnce) {
+  AttachedLink at(600);
+  ScriptedDialogs dialogs;
+  int spent = 0;
+  dialogs.onPump = [&] {
+    if (spent != 0) return;
+    const auto start = Clock::now();
+    CHECK_EQUAL(at.link->CellsSelect(at.book, 2, 2).number, 50290);
+    CHECK_EQUAL(at.link->ActiveWindowClose(false, false).number, 50290);
+    at.link->ReleaseObject();
+    spent = MillisecondsSince(start);
+  };
+  at.server.Mode("hang", "Add", 2000);
+  CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
+  CHECK(spent >= 550 && spent < 1100);
+  Sleep(2200);
+  CHECK_EQUAL(at.server.State(), at.stateBefore);
+  CHECK_EQUAL(NumberOfPoll(*at.link), 91);
+}
+
 // ---- the end of the application ---------------------------------------------------------------------------
 
 bool IsGone(int number) {
@@ -204,6 +263,14 @@ EXCEL_TEST(Failures, AKilledApplicationIsGoneAndThenNoneRuns) {
   EndSharedServer();
   CHECK_EQUAL(at.link->GetRunningObject().number, 429);
   CHECK_EQUAL(NumberOfPoll(*at.link), 91);
+}
+
+EXCEL_TEST(Failures, OneThatWasKilledDoesNotRun) {
+  AttachedLink at;
+  at.server.Kill();
+  CHECK_EQUAL(at.link->GetRunningObject().number, 429);
+  CHECK_EQUAL(NumberOfPoll(*at.link), 91);
+  EndSharedServer();
 }
 
 EXCEL_TEST(Failures, OneThatDiesInTheCallIsGone) {

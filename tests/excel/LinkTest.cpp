@@ -52,6 +52,8 @@ EXCEL_TEST(Link, WithoutAnApplicationEveryOperationFailsWith91) {
   CHECK_EQUAL(link.CellsValue(at.book, 1, 1, value).number, 91);
   CHECK_EQUAL(link.CellsSelect(at.book, 1, 1).number, 91);
   CHECK_EQUAL(link.EvaluateAside(at.book, "=1", value, flag).number, 91);
+  CHECK_EQUAL(link.EvaluateAside(at.book, std::string(300, '='), value, flag).number, 91);
+  CHECK(flag);
   CHECK_EQUAL(link.RangeCopy("A1").number, 91);
   CHECK_EQUAL(link.RangePasteSpecial("A1", {}).number, 91);
   CHECK_EQUAL(link.EndCutCopyMode().number, 91);
@@ -138,6 +140,16 @@ EXCEL_TEST(Link, TheWindowsOfAWorkbookCountAsOne) {
   CHECK_EQUAL(at.link->WindowCaption(0, caption).number, 9);
 }
 
+EXCEL_TEST(Link, TheNumberOfAWindowIsLeftOutAsNewerVersionsWriteItToo) {
+  AttachedLink at;
+  at.server.AddBook("Newer.xlsx", "Newer.xlsx", 2);
+  CHECK(at.link->GetRunningObject().Good());
+  CHECK(at.link->ActiveWorkbook(at.book).Good());
+  std::string caption;
+  CHECK(at.link->WorkbookWindowCaption(at.book, 1, caption).Good());
+  CHECK_EQUAL(caption, "Newer.xlsx");
+}
+
 EXCEL_TEST(Link, ANumberThatBelongsToTheCaptionStays) {
   AttachedLink at;
   at.server.AddBook("plan.xlsx", "plan:2");
@@ -164,6 +176,40 @@ EXCEL_TEST(Link, AWorkbookIsFoundByItsNameOrItsCaption) {
   CHECK_EQUAL(at.link->WorkbooksActivate("missing.xlsx").number, 9);
   CHECK(at.link->ActiveWorkbookName(name).Good());
   CHECK_EQUAL(name, "plain.xlsx");
+}
+
+EXCEL_TEST(Link, AWorkbookWithoutANameIsNone) {
+  AttachedLink at;
+  std::string name;
+  CHECK(at.link->WorkbooksAdd().Good());
+  CHECK_EQUAL(at.link->WorkbooksActivate("").number, 9);
+  CHECK(at.link->ActiveWorkbookName(name).Good());
+  CHECK_EQUAL(name, "Scratch1");
+}
+
+EXCEL_TEST(Link, TheActiveWorkbookIsNotTakenTwice) {
+  AttachedLink at;
+  std::string formula;
+  CHECK(at.link->FindActivate(at.book, SearchForKeyword()).number == 91);
+  CHECK(at.link->ApplicationFindActivate(SearchForKeyword()).Good());
+  CHECK(at.link->WorkbooksAdd().Good());
+  CHECK(at.link->WorkbooksActivate("Book1.xlsx").Good());
+  Workbook book = kNoWorkbook;
+  CHECK(at.link->ActiveWorkbook(book).Good());
+  CHECK(at.link->ActiveCellFormula(book, formula).Good());
+  CHECK_EQUAL(formula, AttachedLink::kFormula);
+}
+
+EXCEL_TEST(Link, AWorkbookFromBeforeAReleaseIsNoneAnyMore) {
+  AttachedLink at;
+  at.link->ReleaseObject();
+  CHECK(at.link->GetRunningObject().Good());
+  Workbook book = kNoWorkbook;
+  CHECK(at.link->ActiveWorkbook(book).Good());
+  CHECK(book != at.book);
+  std::string name;
+  CHECK_EQUAL(at.link->ActiveSheetName(at.book, name).number, 91);
+  CHECK(at.link->ActiveSheetName(book, name).Good());
 }
 
 EXCEL_TEST(Link, WhatIsActiveStaysSoWhateverTheUserClicksOn) {
@@ -200,6 +246,30 @@ EXCEL_TEST(Link, CellsOfEveryKindHaveTextAndNumber) {
   CHECK_EQUAL(cell(9, 9), "");
   CellValue value;
   CHECK_EQUAL(at.link->CellsValue(at.book, 0, 0, value).number, 1004);
+}
+
+EXCEL_TEST(Link, SheetAndCellGoTogetherWhereverTheUserGoes) {
+  AttachedLink at;
+  std::string formula, sheet;
+  CHECK(at.link->ActiveCellFormula(at.book, formula).Good());
+  at.server.ShowSheet("Another");
+  CHECK(at.link->ActiveSheetName(at.book, sheet).Good());
+  CHECK_EQUAL(sheet, "Sheet1");
+  CHECK(at.link->GetRunningObject().Good());
+  CHECK(at.link->ActiveWorkbook(at.book).Good());
+  CHECK(at.link->ActiveSheetName(at.book, sheet).Good());
+  CHECK_EQUAL(sheet, "Another");
+}
+
+EXCEL_TEST(Link, AChartInFrontHasANameAndNoCell) {
+  AttachedLink at;
+  std::string text = "as before";
+  at.server.Mode("refuse", "ActiveCell");
+  CHECK(at.link->ActiveSheetName(at.book, text).Good());
+  CHECK_EQUAL(text, "Sheet1");
+  CHECK_EQUAL(at.link->ActiveCellFormula(at.book, text).number, 91);
+  CHECK_EQUAL(at.link->SetActiveCellFormula(at.book, "=1").number, 50290);
+  CHECK_EQUAL(text, "Sheet1");
 }
 
 EXCEL_TEST(Link, ASearchFindsTheFormulaAndMovesNoSelection) {
@@ -246,7 +316,12 @@ EXCEL_TEST(Link, AFormulaIsEvaluatedAside) {
   CHECK_EQUAL(evaluated("=\"Orbit \"&B3"), "Orbit 32");
   CHECK_EQUAL(evaluated("=B3"), "32");
   CHECK_EQUAL(evaluated("=1/0"), "#DIV/0!");
-  CHECK_EQUAL(evaluated("=\"" + std::string(300, 'x') + "\""), "not offered");
+  CHECK_EQUAL(evaluated("=Z9"), "0");
+  std::string accents;
+  for (int i = 0; i < 252; ++i)
+    accents += "é";
+  CHECK_EQUAL(evaluated("=\"" + accents + "\""), accents);
+  CHECK_EQUAL(evaluated("=\"" + accents + "é\""), "not offered");
   at.server.Mode("busy", "Evaluate", 1);
   CHECK_EQUAL(evaluated("=B3"), "50290");
   CHECK_EQUAL(at.server.State(), at.stateBefore);
@@ -259,12 +334,43 @@ EXCEL_TEST(Link, TheActiveCellCanBeWrittenAndWrittenBack) {
   CHECK(at.link->GetRunningObject().Good());
   CHECK(at.link->ActiveWorkbook(at.book).Good());
   CellValue value;
+  std::string before;
+  CHECK(at.link->ActiveCellFormula(at.book, before).Good());
   CHECK(at.link->SetActiveCellFormula(at.book, "=\"Orbit é\"").Good());
   CHECK(at.link->ActiveCellValue(at.book, value).Good());
   CHECK_EQUAL(value.text, "Orbit é");
   CHECK(at.link->SetActiveCellFormula(at.book, AttachedLink::kFormula).Good());
   at.server.Select(3, 2);
   CHECK_EQUAL(at.server.State(), at.stateBefore);
+}
+
+EXCEL_TEST(Link, OnlyTheCellThatWasReadLastIsWritten) {
+  AttachedLink at;
+  std::string formula;
+  CHECK_EQUAL(at.link->SetActiveCellFormula(at.book, "=1").number, 50290);
+  CHECK(at.link->ActiveCellFormula(at.book, formula).Good());
+  CHECK(at.link->CellsSelect(at.book, 4, 2).Good());
+  CHECK_EQUAL(at.link->SetActiveCellFormula(at.book, "=1").number, 50290);
+  CHECK(at.link->ApplicationFindActivate(SearchForKeyword()).Good());
+  CHECK_EQUAL(at.link->SetActiveCellFormula(at.book, "=1").number, 50290);
+  at.server.Mode("busy", "Formula", 1);
+  CHECK_EQUAL(at.link->ActiveCellFormula(at.book, formula).number, 50290);
+  CHECK_EQUAL(at.link->SetActiveCellFormula(at.book, "=1").number, 50290);
+  CHECK_EQUAL(at.server.State(), at.stateBefore);
+  CHECK(at.link->CellsSelect(at.book, 3, 2).Good());
+  at.server.Log();
+  CHECK(at.link->SetActiveCellFormula(at.book, "=1").Good());
+  CHECK_EQUAL(at.server.Log(), "B3.Formula = =1\n");
+}
+
+EXCEL_TEST(Link, TheCellThatWasReadIsWrittenThoughTheUserIsElsewhere) {
+  AttachedLink at;
+  std::string formula;
+  CHECK(at.link->ActiveCellFormula(at.book, formula).Good());
+  at.server.Select(4, 3);
+  at.server.Log();
+  CHECK(at.link->SetActiveCellFormula(at.book, "=1").Good());
+  CHECK_EQUAL(at.server.Log(), "B3.Formula = =1\n");
 }
 
 }  // namespace

@@ -106,6 +106,10 @@ void ServerRun::Activate(const std::string& name) {
   CHECK(app_.Call(L"TestActivate", CallArguments(name)).Good());
 }
 
+void ServerRun::ShowSheet(const std::string& name) {
+  CHECK(app_.Call(L"TestSheet", CallArguments(name)).Good());
+}
+
 void ServerRun::Mode(const std::string& kind, const std::string& member, int amount) {
   CHECK(app_.Call(L"TestMode", CallArguments(kind).Add(member).Add(amount)).Good());
 }

@@ -28,6 +28,8 @@ class ServerRun {
   /// The user selects that cell.
   void Select(int row, int column);
   void Activate(const std::string& name);
+  /// The user goes to the sheet of that name.
+  void ShowSheet(const std::string& name);
 
   void Mode(const std::string& kind, const std::string& member = "", int amount = 1000000);
   void RejectFor(int milliseconds);

@@ -6,6 +6,7 @@
 namespace quorb {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -82,7 +83,18 @@ TEST_F(SheetReportTest, WhyASheetDoesNotPlotIsToldInOneLine) {
             "the spreadsheet is busy: a cell is being edited, or a dialog is open");
   sheet.faults.clear();
   sheet.faults["BlockText"] = FaultOf(kFaultApplication);
-  EXPECT_EQ(ReportSheet(window, "/out/plot.qbv").reason, "the data file /out/plot.qbv could not be written");
+  EXPECT_EQ(
+      ReportSheet(window, "/out/plot.qbv").reason,
+      "the data file /out/plot.qbv was not written: The spreadsheet did not give the text of the table: " +
+          FaultText(kFaultApplication));
+  sheet.faults.clear();
+  sheet.onCall = [](const std::string& call, int) {
+    return call == "RangeCopy A2:C4" ? FaultOf(kFaultBusy) : SheetFault();
+  };
+  EXPECT_THAT(ReportSheet(window, "/out/plot.qbv").reason,
+              HasSubstr("was not written: The table was not poured whole"));
+  EXPECT_THAT(ReportSheet(window, "/out/plot.qbv").reason, EndsWith(FaultText(kFaultBusy)));
+  sheet.onCall = nullptr;
   EXPECT_FALSE(sheet.isAttached);
   EXPECT_FALSE(SpreadsheetInUse());
 }

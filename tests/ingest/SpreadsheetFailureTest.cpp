@@ -105,6 +105,19 @@ TEST_F(SpreadsheetFailureTest, AMissingFileOnTheWayToTheSpreadsheetMendsTheEndin
   EXPECT_THAT(Point(0), ElementsAre(0, 0.001, 0.002, 0.003, 0));
 }
 
+TEST_F(SpreadsheetFailureTest, AMissingFileAtTheSecondTryIsNoSpreadsheetAndNoMore) {
+  PutLastFile();
+  dialogs.answers = {BoxAnswer::ok};
+  int tries = 0;
+  sheet.onCall = [&](const std::string& call, int) {
+    if (call != "GetRunningObject") return SheetFault();
+    return FaultOf(++tries == 1 ? kFaultNoApplication : kFaultFileNotFound);
+  };
+  LoadFromSheet();
+  EXPECT_EQ(tries, 2);
+  EXPECT_EQ(MaybeExtError, 0);
+}
+
 TEST_F(SpreadsheetFailureTest, AnOrdinaryMissingFileGetsNoSecondTry) {
   files.contents["/data/plot.qbv"] = Header("=MAX(A2:C9)") + "1\t2\t3\r\n";
   LoadNamed("/data/plot.txt");

@@ -4,6 +4,7 @@
 
 #include "LoaderLink.h"
 #include "MemorySpreadsheet.h"
+#include "SheetSession.h"
 #include "SpecificationHistory.h"
 #include "WindowFixture.h"
 
@@ -93,6 +94,21 @@ TEST_F(SheetControlsTest, AnUpdateWhileTheFirstLoadWaitsIsTheOnlyOtherLoad) {
   EXPECT_EQ(LoadsStarted, 2);
   EXPECT_EQ(FirstActivated, 1);
   EXPECT_EQ(LoadBusy, 0);
+}
+
+TEST_F(SheetControlsTest, AnUpdateWhileTheSheetIsReadChangesNothing) {
+  MemorySpreadsheet sheet;
+  CommandFileMode = 1;
+  frmMain->Check1[7].value = 1;
+  SetSpreadsheetInUse(true);
+  frmMain->mnuUpdateExcel.clicked();
+  SetSpreadsheetInUse(false);
+  EXPECT_THAT(sheet.calls, testing::IsEmpty());
+  EXPECT_EQ(CommandFileMode, 1);
+  EXPECT_EQ(frmMain->Check1[7].value, 1);
+  EXPECT_TRUE(frmMain->mnuOptions.enabled);
+  EXPECT_EQ(USERFLAG.UpdateAsked, 0.0);
+  EXPECT_NE(frmMain->Text20.text.Get().find("Update was not begun a second time"), std::string::npos);
 }
 
 TEST_F(SheetControlsTest, TheLoaderReachesThePromptsControls) {

@@ -30,6 +30,18 @@ class CalcFixture : public testing::Test {
     opened_.push_back(document);
     return document;
   }
+  int OpenHiddenSheet() {
+    int document = 0;
+    EXPECT_TRUE(User().OpenHiddenSheet(document).Good());
+    opened_.push_back(document);
+    return document;
+  }
+  int OpenFile(const std::string& path) {
+    int document = 0;
+    EXPECT_TRUE(User().OpenFile(path, document).Good());
+    opened_.push_back(document);
+    return document;
+  }
   int OpenText() {
     int document = 0;
     EXPECT_TRUE(User().OpenText(document).Good());

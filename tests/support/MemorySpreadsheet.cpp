@@ -43,7 +43,7 @@ void MemorySpreadsheet::Vanish() {
 }
 
 std::string MemorySpreadsheet::UserState() const {
-  std::string state = clipboard + " " + copyMode + "\n";
+  std::string state;
   for (const MemoryBook& book : books) {
     if (book.isScratch) continue;
     state += book.caption + "/" + book.sheetName + " at " + std::to_string(book.activeRow) + "," +

@@ -66,8 +66,6 @@ class MemorySpreadsheet : public SheetLink {
   std::map<std::string, CellValue> evaluations;
   /// The link has a way of evaluating that writes nothing.
   bool evaluatesAside = false;
-  /// What is the user's besides the workbooks.
-  std::string clipboard = "theirs", copyMode = "A1:B2";
   /// Behind a failure of an application that went away every call fails with that number.
   bool keepsLostNumber = true;
   int quits = 0;
@@ -84,7 +82,7 @@ class MemorySpreadsheet : public SheetLink {
   MemoryBook& AddBook(const std::string& caption, const std::string& sheetName = "Sheet1");
   /// Ends the application: its workbooks are gone.
   void Vanish();
-  /// Everything that is the user's: workbooks in their order, selections, contents, clipboard.
+  /// Everything that is the user's: workbooks in their order, selections, contents.
   std::string UserState() const;
   /// True when a workbook of the user's has something to undo or to save.
   bool HasTraces() const;

@@ -14,9 +14,11 @@ struct UserState {
   std::string frontTitle;
   std::string sheet, selection, viewData;
   bool modified = false;
-  std::string undo;       ///< The titles of what can be undone and redone.
-  std::string clipboard;  ///< Its text.
-  int documents = 0;
+  std::string undo;              ///< The titles of what can be undone and redone.
+  std::string clipboard;         ///< Its text.
+  std::string clipboardFormats;  ///< Its formats, as MIME types.
+  int documents = 0;             ///< With a window, be it hidden or not.
+  int loaded = 0;                ///< All of them, with a window or without.
 
   bool operator==(const UserState&) const = default;
 };
@@ -30,6 +32,10 @@ class OfficeUser {
   virtual SheetFault Connect(const std::string& pipeName, const std::string& programDirectory) = 0;
 
   virtual SheetFault OpenSheet(int& document) = 0;
+  /// The same, with a window that is hidden.
+  virtual SheetFault OpenHiddenSheet(int& document) = 0;
+  /// The same, with no window at all.
+  virtual SheetFault OpenSheetWithoutWindow(int& document) = 0;
   virtual SheetFault OpenText(int& document) = 0;
   virtual SheetFault OpenFile(const std::string& path, int& document) = 0;
   virtual SheetFault Close(int document) = 0;
@@ -53,11 +59,17 @@ class OfficeUser {
   virtual SheetFault Select(int document, int sheet, const std::string& range) = 0;
   virtual SheetFault Merge(int document, int sheet, const std::string& range) = 0;
   virtual SheetFault HideRows(int document, int sheet, const std::string& range) = 0;
+  virtual SheetFault HideColumns(int document, int sheet, const std::string& range) = 0;
   /// Filters a range for the rows whose cell in that column of it, from 0, is above `bound`.
   virtual SheetFault FilterRows(int document, int sheet, const std::string& range, int column,
                                 double bound) = 0;
   virtual SheetFault Protect(int document, int sheet) = 0;
   virtual SheetFault AddName(int document, const std::string& name, const std::string& content) = 0;
+  /// Gives a command of the menus, such as ".uno:PrintPreview", that asks for nothing more.
+  virtual SheetFault Command(int document, const std::string& command) = 0;
+  virtual SheetFault IsShown(int document, bool& shown) = 0;
+  /// Saves a copy in the office's own format.
+  virtual SheetFault SaveCopy(int document, const std::string& path) = 0;
   /// Copies the selection to the clipboard.
   virtual SheetFault Copy(int document) = 0;
   virtual SheetFault SetModified(int document, bool modified) = 0;

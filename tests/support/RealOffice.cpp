@@ -28,6 +28,22 @@ std::string CommandLineOf(pid_t process) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+// The letter for the state of a process or thread; empty when it is gone.
+std::string StateIn(const std::string& statusFile) {
+  std::ifstream status(statusFile);
+  std::string number, name, state;
+  return status >> number >> name >> state ? state : "";
+}
+
+bool AllThreadsStand(pid_t process) {
+  std::error_code gone;
+  for (const auto& thread :
+       std::filesystem::directory_iterator("/proc/" + std::to_string(process) + "/task", gone))
+    if (const std::string state = StateIn(thread.path().string() + "/stat"); !state.empty() && state != "T")
+      return false;
+  return true;
+}
+
 OfficeUser* OpenUser(const std::string& programDirectory) {
   static OpenUserFunction open = nullptr;
   if (open == nullptr) {
@@ -155,11 +171,17 @@ CalcLinkOptions RealOffice::Options() const {
   options.pluginPath = QUORB_CALC_PLUGIN;
   // Two processors may be busy with other tests.
   options.pollPatience = milliseconds(2000);
+  options.attachPatience = milliseconds(5000);
   return options;
 }
 
+// A thread may run on for a moment behind the signal.
 void RealOffice::Freeze() {
-  if (running_.process > 0) kill(running_.process, SIGSTOP);
+  if (running_.process <= 0) return;
+  kill(running_.process, SIGSTOP);
+  const auto deadline = steady_clock::now() + milliseconds(5000);
+  while (!AllThreadsStand(running_.process) && steady_clock::now() < deadline)
+    std::this_thread::sleep_for(milliseconds(1));
 }
 
 void RealOffice::Thaw() {
@@ -183,9 +205,8 @@ void RealOffice::Kill() {
 
 bool RealOffice::Runs() const {
   if (running_.process <= 0) return false;
-  std::ifstream status("/proc/" + std::to_string(running_.process) + "/stat");
-  std::string number, name, state;
-  return status >> number >> name >> state && state != "Z";
+  const std::string state = StateIn("/proc/" + std::to_string(running_.process) + "/stat");
+  return !state.empty() && state != "Z";
 }
 
 }  // namespace quorb

@@ -12,6 +12,7 @@
 #include <com/sun/star/lang/XServiceInfo.hpp>
 #include <cppuhelper/bootstrap.hxx>
 #include <exception>
+#include <functional>
 #include <osl/file.hxx>
 #include <rtl/bootstrap.hxx>
 #include <thread>
@@ -47,17 +48,23 @@ Reference<css::uno::XComponentContext> OwnContext(const std::string& programDire
 }
 
 Reference<css::connection::XConnection> Reach(const Reference<css::uno::XComponentContext>& context,
-                                              const std::string& pipeName, int patienceMilliseconds) {
+                                              const std::string& pipeName, int patienceMilliseconds,
+                                              const std::function<bool()>& isCut) {
   const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(patienceMilliseconds);
   const auto connector = css::connection::Connector::create(context);
   for (;;) {
     try {
       return connector->connect(Utf16("pipe,name=" + pipeName));
     } catch (const css::connection::NoConnectException&) {
-      if (std::chrono::steady_clock::now() > deadline) throw;
+      if (isCut() || std::chrono::steady_clock::now() > deadline) throw;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(3));
   }
+}
+
+bool IsVisible(const Reference<css::frame::XFrame>& frame) {
+  const Reference<css::awt::XWindow2> window(frame.is() ? frame->getContainerWindow() : nullptr, UNO_QUERY);
+  return window.is() && window->isVisible();
 }
 
 }  // namespace
@@ -85,12 +92,14 @@ SheetFault UnoSession::Guarded(const std::function<SheetFault()>& work) {
   }
 }
 
+bool UnoSession::IsCut() {
+  const std::lock_guard lock(bridgeMutex_);
+  return cut_;
+}
+
 // Asks the office for something small.
 bool UnoSession::Alive() {
-  {
-    const std::lock_guard lock(bridgeMutex_);
-    if (cut_ || !desktop_.is()) return false;
-  }
+  if (IsCut() || !desktop_.is()) return false;
   try {
     desktop_->getCurrentFrame();
     return true;
@@ -112,7 +121,7 @@ SheetFault UnoSession::Connect(const std::string& pipeName, const std::string& p
                                int patienceMilliseconds) {
   return Guarded([&]() -> SheetFault {
     const auto own = OwnContext(programDirectory);
-    auto connection = Reach(own, pipeName, patienceMilliseconds);
+    auto connection = Reach(own, pipeName, patienceMilliseconds, [this] { return IsCut(); });
     auto bridge = css::bridge::BridgeFactory::create(own)->createBridge("", "urp", connection, nullptr);
     {
       const std::lock_guard lock(bridgeMutex_);
@@ -202,24 +211,20 @@ SheetFault UnoSession::Visible(bool& visible) {
   return Guarded([&]() -> SheetFault {
     bool any = false;
     const Reference<css::container::XIndexAccess> frames(desktop_->getFrames(), UNO_QUERY_THROW);
-    for (sal_Int32 i = 0; i < frames->getCount() && !any; ++i) {
-      const Reference<css::frame::XFrame> frame(frames->getByIndex(i), UNO_QUERY);
-      const Reference<css::awt::XWindow2> window(frame.is() ? frame->getContainerWindow() : nullptr,
-                                                 UNO_QUERY);
-      any = window.is() && window->isVisible();
-    }
+    for (sal_Int32 i = 0; i < frames->getCount() && !any; ++i)
+      any = IsVisible(Reference<css::frame::XFrame>(frames->getByIndex(i), UNO_QUERY));
     visible = any;
     return {};
   });
 }
 
+// The window of one workbook stands for the application: documents that a macro keeps hidden stay so.
 SheetFault UnoSession::SetVisible(bool visible) {
   return Guarded([&]() -> SheetFault {
-    const Reference<css::container::XIndexAccess> frames(desktop_->getFrames(), UNO_QUERY_THROW);
-    for (sal_Int32 i = 0; i < frames->getCount(); ++i) {
-      const Reference<css::frame::XFrame> frame(frames->getByIndex(i), UNO_QUERY);
-      if (frame.is() && frame->getContainerWindow().is()) frame->getContainerWindow()->setVisible(visible);
-    }
+    const auto windows = BookWindows();
+    if (windows.empty()) return {kNothingThere, "No workbook is open."};
+    const auto window = windows.front().frame->getContainerWindow();
+    if (window.is() && IsVisible(windows.front().frame) != visible) window->setVisible(visible);
     return {};
   });
 }

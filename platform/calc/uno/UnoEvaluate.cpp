@@ -6,19 +6,24 @@
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ComplexReference.hpp>
 #include <com/sun/star/sheet/FormulaToken.hpp>
+#include <com/sun/star/sheet/NameToken.hpp>
 #include <com/sun/star/sheet/ReferenceFlags.hpp>
 #include <com/sun/star/sheet/SingleReference.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
-#include <com/sun/star/sheet/XCellRangeReferrer.hpp>
 #include <com/sun/star/sheet/XFormulaParser.hpp>
+#include <com/sun/star/sheet/XFormulaTokens.hpp>
 #include <com/sun/star/sheet/XNamedRange.hpp>
 #include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSheetCellCursor.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/sheet/XUsedAreaCursor.hpp>
 #include <com/sun/star/util/XCloseable.hpp>
+#include <cstdint>
+#include <functional>
+#include <set>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "UnoSession.h"
@@ -32,9 +37,10 @@ using css::uno::UNO_QUERY_THROW;
 
 namespace {
 
-constexpr int kMostCells = 200000;
-constexpr int kMostNames = 200;
+constexpr std::int64_t kMostCells = 200000;
+constexpr std::size_t kMostNames = 200;
 
+using Tokens = css::uno::Sequence<css::sheet::FormulaToken>;
 using Sheets = std::vector<Reference<css::sheet::XSpreadsheet>>;
 
 Sheets SheetsOf(const Reference<css::uno::XInterface>& document) {
@@ -74,8 +80,7 @@ css::table::CellAddress CellOf(const css::sheet::SingleReference& reference,
 }
 
 // The cells that a formula names.
-std::vector<CellRangeAddress> CellsNamed(const css::uno::Sequence<css::sheet::FormulaToken>& tokens,
-                                         const css::table::CellAddress& base) {
+std::vector<CellRangeAddress> CellsNamed(const Tokens& tokens, const css::table::CellAddress& base) {
   std::vector<CellRangeAddress> cells;
   const auto add = [&](const css::sheet::SingleReference& from, const css::sheet::SingleReference& to) {
     const auto first = CellOf(from, base);
@@ -113,74 +118,127 @@ class AsideDocument {
   Reference<css::frame::XModel> document_;
 };
 
-void CopyNames(const Reference<css::uno::XInterface>& from, const Reference<css::uno::XInterface>& to,
-               const std::function<void(const CellRangeAddress&)>& copyCells) {
-  Reference<css::sheet::XNamedRanges> names, copies;
-  Reference<css::beans::XPropertySet>(from, UNO_QUERY_THROW)->getPropertyValue("NamedRanges") >>= names;
-  Reference<css::beans::XPropertySet>(to, UNO_QUERY_THROW)->getPropertyValue("NamedRanges") >>= copies;
-  const auto all = names->getElementNames();
-  for (sal_Int32 i = 0; i < std::min<sal_Int32>(all.getLength(), kMostNames); ++i) {
-    const Reference<css::sheet::XNamedRange> name(names->getByName(all[i]), UNO_QUERY_THROW);
-    copies->addNewByName(all[i], name->getContent(), name->getReferencePosition(), name->getType());
-    const Reference<css::sheet::XCellRangeReferrer> referrer(name, UNO_QUERY);
-    if (referrer.is() && referrer->getReferredCells().is())
-      copyCells(AddressOf(referrer->getReferredCells()));
+using Names = Reference<css::sheet::XNamedRanges>;
+
+// The defined names of a document or of one sheet.
+Names NamesOf(const Reference<css::uno::XInterface>& owner) {
+  Names names;
+  Reference<css::beans::XPropertySet>(owner, UNO_QUERY_THROW)->getPropertyValue("NamedRanges") >>= names;
+  return names;
+}
+
+// A name by the number that stands for it in formulas; nothing when there is none.
+Reference<css::sheet::XNamedRange> NameOfIndex(const Names& names, sal_Int32 index,
+                                               const std::function<void()>& beat) {
+  for (const rtl::OUString& text : names->getElementNames()) {
+    const Reference<css::sheet::XNamedRange> name(names->getByName(text), UNO_QUERY_THROW);
+    sal_Int32 number = 0;
+    Reference<css::beans::XPropertySet>(name, UNO_QUERY_THROW)->getPropertyValue("TokenIndex") >>= number;
+    beat();
+    if (number == index) return name;
   }
+  return {};
 }
 
 }  // namespace
 
-// Gives the document aside the sheets, the names and the cells that the formula can name.
-void UnoSession::CopyForFormula(const Book& book, const Reference<css::frame::XModel>& aside, int row,
-                                int column, const std::string& formula) {
-  const Reference<css::lang::XMultiServiceFactory> services(book.model, UNO_QUERY_THROW);
-  const Reference<css::sheet::XFormulaParser> parser(
-      services->createInstance("com.sun.star.sheet.FormulaParser"), UNO_QUERY_THROW);
-  Reference<css::beans::XPropertySet>(parser, UNO_QUERY_THROW)
-      ->setPropertyValue("CompileEnglish", css::uno::Any(true));
-  const css::table::CellAddress base(AddressOf(book.sheet).Sheet, column - 1, row - 1);
-  const auto tokens =
-      parser->parseFormula(Utf16(formula.substr(formula.compare(0, 1, "=") == 0 ? 1 : 0)), base);
+// Copies what a formula names into the document aside.
+class UnoSession::Copier {
+ public:
+  Copier(UnoSession& session, const Book& book, const Reference<css::frame::XModel>& aside, int row,
+         int column)
+      : session_(session),
+        book_(book),
+        aside_(aside),
+        base_(AddressOf(book.sheet).Sheet, column - 1, row - 1),
+        from_(SheetsOf(book.model)),
+        to_(MakeSheets()) {}
 
-  const Sheets from = SheetsOf(book.model);
-  const auto sheetsAside = Reference<css::sheet::XSpreadsheetDocument>(aside, UNO_QUERY_THROW)->getSheets();
-  Sheets to = SheetsOf(aside);
-  for (std::size_t i = 0; i < from.size(); ++i) {
-    if (i < to.size())
-      Reference<css::container::XNamed>(to[i], UNO_QUERY_THROW)->setName(NameOf(from[i]));
-    else
-      sheetsAside->insertNewByName(NameOf(from[i]), static_cast<sal_Int16>(i));
+  void CopyForFormula(const std::string& formula) {
+    const Reference<css::lang::XMultiServiceFactory> services(book_.model, UNO_QUERY_THROW);
+    const Reference<css::sheet::XFormulaParser> parser(
+        services->createInstance("com.sun.star.sheet.FormulaParser"), UNO_QUERY_THROW);
+    Reference<css::beans::XPropertySet>(parser, UNO_QUERY_THROW)
+        ->setPropertyValue("CompileEnglish", css::uno::Any(true));
+    CopyNamed(parser->parseFormula(Utf16(formula.substr(formula.compare(0, 1, "=") == 0 ? 1 : 0)), base_));
   }
-  to = SheetsOf(aside);
 
-  int copied = 0;
-  const auto copyCells = [&](CellRangeAddress cells) {
+ private:
+  Sheets MakeSheets() {
+    const auto sheets = Reference<css::sheet::XSpreadsheetDocument>(aside_, UNO_QUERY_THROW)->getSheets();
+    const Sheets first = SheetsOf(aside_);
+    for (std::size_t i = 0; i < from_.size(); ++i) {
+      if (i < first.size())
+        Reference<css::container::XNamed>(first[i], UNO_QUERY_THROW)->setName(NameOf(from_[i]));
+      else
+        sheets->insertNewByName(NameOf(from_[i]), static_cast<sal_Int16>(i));
+    }
+    return SheetsOf(aside_);
+  }
+
+  // The cells, and the names with all that those name in their turn.
+  void CopyNamed(const Tokens& tokens) {
+    for (const CellRangeAddress& cells : CellsNamed(tokens, base_))
+      CopyCells(cells);
+    for (const css::sheet::FormulaToken& token : tokens)
+      if (css::sheet::NameToken name; token.Data >>= name) CopyName(name);
+  }
+
+  // A name that cannot be copied is left out.
+  void CopyName(const css::sheet::NameToken& token) {
+    const auto sheet = static_cast<std::size_t>(token.Sheet);
+    if (token.Sheet >= 0 && sheet >= from_.size()) return;
+    if (names_.size() >= kMostNames || !names_.emplace(token.Sheet, token.Index).second) return;
+    try {
+      const bool isGlobal = token.Sheet < 0;
+      const Names names = isGlobal ? NamesOf(book_.model) : NamesOf(from_[sheet]);
+      const auto name = NameOfIndex(names, token.Index, [this] { session_.Beat(); });
+      if (!name.is()) return;
+      // What it names is there before it, so that it is understood.
+      const Reference<css::sheet::XFormulaTokens> content(name, UNO_QUERY);
+      if (content.is()) CopyNamed(content->getTokens());
+      const Names copies = isGlobal ? NamesOf(aside_) : NamesOf(to_[sheet]);
+      copies->addNewByName(NameOf(name), name->getContent(), name->getReferencePosition(), name->getType());
+    } catch (const css::uno::RuntimeException&) {
+      if (!session_.Alive()) throw;
+    } catch (const css::uno::Exception&) {
+      return;
+    }
+  }
+
+  void CopyCells(CellRangeAddress cells) {
     const auto sheet = static_cast<std::size_t>(cells.Sheet);
-    if (cells.Sheet < 0 || sheet >= from.size() || cells.StartRow < 0 || cells.StartColumn < 0) return;
-    const Reference<css::sheet::XUsedAreaCursor> cursor(from[sheet]->createCursor(), UNO_QUERY_THROW);
+    if (cells.Sheet < 0 || sheet >= from_.size() || cells.StartRow < 0 || cells.StartColumn < 0) return;
+    const Reference<css::sheet::XUsedAreaCursor> cursor(from_[sheet]->createCursor(), UNO_QUERY_THROW);
     cursor->gotoEndOfUsedArea(false);
     const CellRangeAddress used = AddressOf(cursor);
     cells.EndRow = std::min(cells.EndRow, used.EndRow);
     cells.EndColumn = std::min(cells.EndColumn, used.EndColumn);
     if (cells.EndRow < cells.StartRow || cells.EndColumn < cells.StartColumn) return;
-    copied += (cells.EndRow - cells.StartRow + 1) * (cells.EndColumn - cells.StartColumn + 1);
-    if (copied > kMostCells) throw std::length_error("The formula names too many cells.");
+    copied_ += static_cast<std::int64_t>(cells.EndRow - cells.StartRow + 1) *
+               (cells.EndColumn - cells.StartColumn + 1);
+    if (copied_ > kMostCells) throw std::length_error("The formula names too many cells.");
     const auto range = [&](const Reference<css::sheet::XSpreadsheet>& on) {
       return Reference<css::sheet::XCellRangeData>(
           on->getCellRangeByPosition(cells.StartColumn, cells.StartRow, cells.EndColumn, cells.EndRow),
           UNO_QUERY_THROW);
     };
-    range(to[sheet])->setDataArray(range(from[sheet])->getDataArray());
-    Beat();
-  };
-  for (const CellRangeAddress& cells : CellsNamed(tokens, base))
-    copyCells(cells);
-  CopyNames(book.model, aside, copyCells);
-}
+    range(to_[sheet])->setDataArray(range(from_[sheet])->getDataArray());
+    session_.Beat();
+  }
+
+  UnoSession& session_;
+  const Book& book_;
+  const Reference<css::frame::XModel> aside_;
+  const css::table::CellAddress base_;
+  const Sheets from_, to_;
+  std::set<std::pair<sal_Int32, sal_Int32>> names_;  // Sheet and number of those that were copied.
+  std::int64_t copied_ = 0;
+};
 
 CellValue UnoSession::EvaluateIn(const Book& book, const Reference<css::frame::XModel>& aside, int row,
                                  int column, const std::string& formula) {
-  CopyForFormula(book, aside, row, column, formula);
+  Copier(*this, book, aside, row, column).CopyForFormula(formula);
   const auto sheet = SheetsOf(aside)[static_cast<std::size_t>(AddressOf(book.sheet).Sheet)];
   sheet->getCellByPosition(column - 1, row - 1)->setFormula(Utf16(formula));
   return ValueOf(sheet, row, column);

@@ -70,6 +70,7 @@ class UnoSession : public OfficeSession {
     css::uno::Reference<css::frame::XModel> model;
     css::uno::Reference<css::sheet::XSpreadsheet> sheet;
   };
+  class Copier;
   struct BookWindow {
     css::uno::Reference<css::frame::XFrame> frame;
     css::uno::Reference<css::frame::XController> controller;
@@ -78,6 +79,7 @@ class UnoSession : public OfficeSession {
 
   // Runs a piece of work and turns what it throws into a failure.
   SheetFault Guarded(const std::function<SheetFault()>& work);
+  bool IsCut();
   bool Alive();
   bool AskedIsOpen();
   void Beat() { pulse_.fetch_add(1); }
@@ -91,8 +93,6 @@ class UnoSession : public OfficeSession {
   SheetFault ReadValues(const css::uno::Reference<css::sheet::XSpreadsheet>& sheet,
                         const CellRectangle& rectangle, CellBlock& block);
   static CellValue ValueOf(const css::uno::Reference<css::sheet::XSpreadsheet>& sheet, int row, int column);
-  void CopyForFormula(const Book& book, const css::uno::Reference<css::frame::XModel>& aside, int row,
-                      int column, const std::string& formula);
   CellValue EvaluateIn(const Book& book, const css::uno::Reference<css::frame::XModel>& aside, int row,
                        int column, const std::string& formula);
 

@@ -36,13 +36,13 @@ bool SheetPart(std::string_view part, int& row, int& column) {
 
 void CursorCell(const std::string& viewData, int sheet, int& row, int& column) {
   row = column = 1;
-  int place = -1;
-  for (const std::string_view part : Parts(viewData, ";")) {
-    int partRow = 0, partColumn = 0;
-    if (!SheetPart(part, partRow, partColumn) || ++place != sheet) continue;
-    row = partRow + 1;
-    column = partColumn + 1;
-  }
+  const auto parts = Parts(viewData, ";");
+  const bool hasTabBar = parts.size() > 2 && parts[2].substr(0, 3) == "tw:";
+  const std::size_t place = (hasTabBar ? 3U : 2U) + static_cast<std::size_t>(sheet);
+  int partRow = 0, partColumn = 0;
+  if (place >= parts.size() || !SheetPart(parts[place], partRow, partColumn)) return;
+  row = partRow + 1;
+  column = partColumn + 1;
 }
 
 std::string CaptionOfTitle(const std::string& windowTitle, const std::string& documentTitle) {

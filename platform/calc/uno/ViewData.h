@@ -5,10 +5,9 @@
 namespace quorb {
 
 /// The place of the cursor on a sheet, out of the text in which a view of the office keeps its state: parts
-/// behind ";", from the fourth on one a sheet, each beginning with the cursor's column and row from 0,
-/// between
-/// "/" or, in long sheets, "+". A part that begins with other text, such as the width of the tab bar, counts
-/// for no sheet.
+/// between ";", the zoom, the sheet on show, the width of the tab bar ("tw:270", may be missing), and then
+/// one a sheet, which begins with the cursor's column and row from 0, between "/" or, in long sheets, "+".
+/// The part of a sheet that the view has not shown yet is empty.
 ///
 /// @param sheet the sheet's number from 0.
 /// @param row, column out: from 1; A1 where the text says nothing of that sheet.

@@ -1,3 +1,4 @@
+#include <com/sun/star/awt/XWindow2.hpp>
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/bridge/BridgeFactory.hpp>
@@ -11,8 +12,10 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/frame/XDispatchHelper.hpp>
+#include <com/sun/star/frame/XLoadable.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
+#include <com/sun/star/frame/theGlobalEventBroadcaster.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/sheet/FilterOperator.hpp>
 #include <com/sun/star/sheet/TableFilterField.hpp>
@@ -98,6 +101,22 @@ class UnoUser : public OfficeUser {
   }
 
   SheetFault OpenSheet(int& document) override { return Load("private:factory/scalc", document); }
+  SheetFault OpenHiddenSheet(int& document) override {
+    return Guarded([&] {
+      const PropertyValue hidden = Property("Hidden", Any(true));
+      documents_.emplace_back(desktop_->loadComponentFromURL("private:factory/scalc", "_blank", 0,
+                                                             Sequence<PropertyValue>(&hidden, 1)),
+                              UNO_QUERY_THROW);
+      document = static_cast<int>(documents_.size());
+    });
+  }
+  SheetFault OpenSheetWithoutWindow(int& document) override {
+    return Guarded([&] {
+      documents_.emplace_back(Service("com.sun.star.sheet.SpreadsheetDocument"), UNO_QUERY_THROW);
+      document = static_cast<int>(documents_.size());
+      Reference<css::frame::XLoadable>(documents_.back(), UNO_QUERY_THROW)->initNew();
+    });
+  }
   SheetFault OpenText(int& document) override { return Load("private:factory/swriter", document); }
   SheetFault OpenFile(const std::string& path, int& document) override {
     return Load("file://" + Wide(path), document);
@@ -224,6 +243,13 @@ class UnoUser : public OfficeUser {
           ->setPropertyValue("IsVisible", Any(false));
     });
   }
+  SheetFault HideColumns(int document, int sheet, const std::string& range) override {
+    return Guarded([&] {
+      const Reference<css::table::XColumnRowRange> cells(Range(document, sheet, range), UNO_QUERY_THROW);
+      Reference<css::beans::XPropertySet>(cells->getColumns(), UNO_QUERY_THROW)
+          ->setPropertyValue("IsVisible", Any(false));
+    });
+  }
   SheetFault FilterRows(int document, int sheet, const std::string& range, int column,
                         double bound) override {
     return Guarded([&] {
@@ -249,6 +275,23 @@ class UnoUser : public OfficeUser {
       Reference<css::beans::XPropertySet>(Model(document), UNO_QUERY_THROW)
           ->getPropertyValue("NamedRanges") >>= names;
       names->addNewByName(Wide(name), Wide(content), css::table::CellAddress(), 0);
+    });
+  }
+  SheetFault Command(int document, const std::string& command) override {
+    return Dispatch(document, command.c_str());
+  }
+  SheetFault IsShown(int document, bool& shown) override {
+    return Guarded([&] {
+      shown = Reference<css::awt::XWindow2>(
+                  Model(document)->getCurrentController()->getFrame()->getContainerWindow(), UNO_QUERY_THROW)
+                  ->isVisible();
+    });
+  }
+  SheetFault SaveCopy(int document, const std::string& path) override {
+    return Guarded([&] {
+      const PropertyValue how = Property("FilterName", Any(OUString("calc8")));
+      Reference<css::frame::XStorable>(Model(document), UNO_QUERY_THROW)
+          ->storeToURL("file://" + Wide(path), Sequence<PropertyValue>(&how, 1));
     });
   }
   SheetFault Copy(int document) override { return Dispatch(document, ".uno:Copy"); }
@@ -292,10 +335,10 @@ class UnoUser : public OfficeUser {
         found.undo += Narrow(action) + ";";
       for (const OUString& action : undo->getAllRedoActionTitles())
         found.undo += "<" + Narrow(action) + ";";
-      found.clipboard = ClipboardText();
-      const auto documents = desktop_->getComponents()->createEnumeration();
-      for (; documents->hasMoreElements(); documents->nextElement())
-        ++found.documents;
+      found.clipboard = ClipboardText(found.clipboardFormats);
+      found.documents = Count(desktop_->getComponents());
+      found.loaded = Count(Reference<css::container::XEnumerationAccess>(
+          css::frame::theGlobalEventBroadcaster::get(context_), UNO_QUERY_THROW));
       state = found;
     });
   }
@@ -365,12 +408,22 @@ class UnoUser : public OfficeUser {
                               OUString::createFromAscii(command), "", 0, {});
     });
   }
-  std::string ClipboardText() {
+  static int Count(const Reference<css::container::XEnumerationAccess>& all) {
+    int count = 0;
+    const auto each = all->createEnumeration();
+    for (; each->hasMoreElements(); each->nextElement())
+      ++count;
+    return count;
+  }
+  std::string ClipboardText(std::string& formats) {
     const Reference<css::datatransfer::clipboard::XClipboard> clipboard(
         Service("com.sun.star.datatransfer.clipboard.SystemClipboard"), UNO_QUERY_THROW);
     const auto contents = clipboard->getContents();
     if (!contents.is()) return "(nothing)";
-    for (const css::datatransfer::DataFlavor& flavor : contents->getTransferDataFlavors()) {
+    const auto flavors = contents->getTransferDataFlavors();
+    for (const css::datatransfer::DataFlavor& flavor : flavors)
+      formats += Narrow(flavor.MimeType) + "\n";
+    for (const css::datatransfer::DataFlavor& flavor : flavors) {
       if (flavor.MimeType != "text/plain;charset=utf-16") continue;
       OUString text;
       contents->getTransferData(flavor) >>= text;

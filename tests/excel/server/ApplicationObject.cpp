@@ -62,6 +62,7 @@ ApplicationObject::ApplicationObject()
                         {L"TestState", {}},
                         {L"TestLog", {}},
                         {L"TestCaption", {L"Caption"}},
+                        {L"TestSheet", {L"Name"}},
                         {L"TestArguments", {L"First", L"Second", L"Third"}}}) {}
 
 void ApplicationObject::Do(const std::wstring& member, bool isPut, const Arguments& arguments,
@@ -117,6 +118,8 @@ bool ApplicationObject::DoForTest(const std::wstring& member, const Arguments& a
     GiveText(result, TakenLog());
   } else if (member == L"TestCaption") {
     Model().nextCaption = TextOf(arguments[0]);
+  } else if (member == L"TestSheet") {
+    Model().Active()->sheetName = TextOf(arguments[0]);
   } else if (member == L"TestArguments") {
     std::wstring text;
     for (const VARIANT* argument : arguments)

@@ -14,14 +14,15 @@ void MustBeOpen(const BookPointer& book) {
 
 // ---- a sheet ----------------------------------------------------------------------------------------------
 
-SheetObject::SheetObject(BookPointer book)
+SheetObject::SheetObject(BookPointer book, std::wstring name)
     : AutomationObject(
           {{L"Name", {}}, {L"Cells", {}}, {L"Range", {L"Cell1", L"Cell2"}}, {L"Evaluate", {L"Name"}}}),
-      book_(std::move(book)) {}
+      book_(std::move(book)),
+      name_(std::move(name)) {}
 
 void SheetObject::Do(const std::wstring& member, bool, const Arguments& arguments, VARIANT& result) {
   MustBeOpen(book_);
-  if (member == L"Name") GiveText(result, book_->sheetName);
+  if (member == L"Name") GiveText(result, name_);
   if (member == L"Cells") GiveObject(result, new RangeObject(book_, kWholeSheet));
   if (member == L"Range") GiveObject(result, new RangeObject(book_, BlockOf(TextOf(arguments[0]))));
   if (member != L"Evaluate") return;
@@ -41,8 +42,9 @@ WindowObject::WindowObject(BookPointer book, int index)
 void WindowObject::Do(const std::wstring& member, bool, const Arguments&, VARIANT& result) {
   MustBeOpen(book_);
   const bool isOnly = book_->windows == 1;
+  const std::wstring mark = book_->name == L"Newer.xlsx" ? L"  -  " : L":";
   if (member == L"Caption")
-    GiveText(result, book_->caption + (isOnly ? L"" : L":" + std::to_wstring(index_)));
+    GiveText(result, book_->caption + (isOnly ? L"" : mark + std::to_wstring(index_)));
   if (member == L"ActiveCell")
     GiveObject(result, new RangeObject(book_, {book_->activeRow, book_->activeColumn, book_->activeRow,
                                                book_->activeColumn}));
@@ -82,7 +84,7 @@ void WorkbookObject::Do(const std::wstring& member, bool, const Arguments& argum
   MustBeOpen(book_);
   if (member == L"Name") GiveText(result, book_->name);
   if (member == L"Windows") GiveObject(result, new WindowsObject(book_));
-  if (member == L"ActiveSheet") GiveObject(result, new SheetObject(book_));
+  if (member == L"ActiveSheet") GiveObject(result, new SheetObject(book_, book_->sheetName));
   if (member != L"Close") return;
   const bool isUnsaved =
       !FlagOf(arguments[0], true) && arguments[1] == nullptr && !FlagOf(arguments[2], true);

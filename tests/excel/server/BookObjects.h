@@ -6,16 +6,18 @@
 /// The sheet of a workbook.
 class SheetObject : public AutomationObject {
  public:
-  explicit SheetObject(BookPointer book);
+  SheetObject(BookPointer book, std::wstring name);
 
  protected:
   void Do(const std::wstring& member, bool isPut, const Arguments& arguments, VARIANT& result) override;
 
  private:
   const BookPointer book_;
+  const std::wstring name_;
 };
 
-/// A window of a workbook, from 1.
+/// A window of a workbook, from 1. Where there are several, the caption ends in ":1", that of "Newer.xlsx" in
+/// "  -  1", as newer versions write it.
 class WindowObject : public AutomationObject {
  public:
   WindowObject(BookPointer book, int index);

@@ -2,6 +2,7 @@
 
 #include <oleauto.h>
 
+#include "BookObjects.h"
 #include "ServerClipboard.h"
 
 namespace {
@@ -57,6 +58,7 @@ RangeObject::RangeObject(BookPointer book, const CellBlock& block)
                         {L"Row", {}},
                         {L"Column", {}},
                         {L"Cells", {}},
+                        {L"Worksheet", {}},
                         {L"ColumnWidth", {}},
                         {L"NumberFormat", {}},
                         {L"Item", {L"RowIndex", L"ColumnIndex"}},
@@ -69,6 +71,7 @@ RangeObject::RangeObject(BookPointer book, const CellBlock& block)
                         {L"TestError", {}},
                         {L"TestDate", {}}}),
       book_(std::move(book)),
+      sheetName_(book_->sheetName),
       block_(block) {}
 
 void RangeObject::Do(const std::wstring& member, bool isPut, const Arguments& arguments, VARIANT& result) {
@@ -104,6 +107,8 @@ bool RangeObject::Get(const std::wstring& member, VARIANT& result) const {
     GiveInteger(result, block_.firstRow);
   } else if (member == L"Column") {
     GiveInteger(result, block_.firstColumn);
+  } else if (member == L"Worksheet") {
+    GiveObject(result, new SheetObject(book_, sheetName_));
   } else if (member == L"Cells") {
     GiveObject(result, new RangeObject(book_, block_));
   } else {

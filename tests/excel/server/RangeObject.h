@@ -19,6 +19,7 @@ class RangeObject : public AutomationObject {
   bool Get(const std::wstring& member, VARIANT& result) const;
 
   const BookPointer book_;
+  const std::wstring sheetName_;
   const CellBlock block_;
 };
 

@@ -1,5 +1,5 @@
 // The automation server of the tests: it offers a small spreadsheet under the class identifier of its command
-// line, and ends when it is told to quit, or by itself after two minutes.
+// line, and ends when it is told to quit, or by itself after five minutes.
 
 #include <objbase.h>
 #include <oleauto.h>
@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr UINT kLongestLife = 120000;
+constexpr UINT kLongestLife = 300000;
 
 void CALLBACK EndServer(HWND, UINT, UINT_PTR, DWORD) {
   PostQuitMessage(0);

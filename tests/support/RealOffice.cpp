@@ -28,11 +28,13 @@ std::string CommandLineOf(pid_t process) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The letter for the state of a process or thread; empty when it is gone.
+// The letter for the state of a process or thread; empty when it is gone. It stands behind the name, which
+// may hold blanks and brackets.
 std::string StateIn(const std::string& statusFile) {
   std::ifstream status(statusFile);
-  std::string number, name, state;
-  return status >> number >> name >> state ? state : "";
+  const std::string text{std::istreambuf_iterator<char>(status), {}};
+  const std::size_t behindName = text.rfind(") ");
+  return behindName == std::string::npos ? "" : text.substr(behindName + 2, 1);
 }
 
 bool AllThreadsStand(pid_t process) {

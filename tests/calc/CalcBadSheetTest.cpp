@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "CalcLoadFixture.h"
+#include "FixedRegion.h"
 #include "NumberText.h"
 
 namespace quorb {
@@ -134,16 +135,6 @@ class CalcGermanSheet : public CalcLoadFixture {
   static void SetUpTestSuite() { office_ = std::make_unique<RealOffice>("", "de-DE"); }
 };
 
-class CommaRegion : public RegionalSettings {
- public:
-  CommaRegion() { SetRegionalSettings(this); }
-  ~CommaRegion() override { SetRegionalSettings(nullptr); }
-  CommaRegion(const CommaRegion&) = delete;
-  CommaRegion& operator=(const CommaRegion&) = delete;
-  std::string DecimalSeparator() override { return ","; }
-  std::string ThousandsSeparator() override { return "."; }
-};
-
 TEST_F(CalcGermanSheet, TheFileHasTheDecimalMarkOfThisProgram) {
   const int document = OpenPlot("=0.5+LEN(\"kmday \"&A3)+MAX(A2:C4)");
   Type(document, 3, 1, "2.5");
@@ -159,7 +150,7 @@ TEST_F(CalcGermanSheet, TheFileHasTheDecimalMarkOfThisProgram) {
 }
 
 TEST_F(CalcGermanSheet, WhereThatIsACommaTheFileHasCommas) {
-  const CommaRegion region;
+  const FixedRegion region(",", ".");
   const int document = OpenPlot("=2+MAX(A2:C4)");
   Type(document, 3, 1, "2.5");
   Settle(document, "T1");
@@ -173,7 +164,7 @@ TEST_F(CalcGermanSheet, WhereThatIsACommaTheFileHasCommas) {
 }
 
 TEST_F(CalcGermanSheet, AScaleBelowOneIsReadAsTheSheetShowsIt) {
-  const CommaRegion region;
+  const FixedRegion region(",", ".");
   const int document = OpenPlot("=0.5+LEN(\"kmday \"&A3)+MAX(A2:C4)");
   Type(document, 3, 1, "2.5");
   Settle(document, "T1");

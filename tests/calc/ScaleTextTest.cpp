@@ -2,34 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "NumberText.h"
+#include "FixedRegion.h"
 #include "Specification.h"
 
 namespace quorb {
 namespace {
-
-class Region : public RegionalSettings {
- public:
-  Region(std::string decimal, std::string thousands)
-      : decimal_(std::move(decimal)), thousands_(std::move(thousands)) {
-    SetRegionalSettings(this);
-  }
-  ~Region() override { SetRegionalSettings(nullptr); }
-  Region(const Region&) = delete;
-  Region& operator=(const Region&) = delete;
-  std::string DecimalSeparator() override { return decimal_; }
-  std::string ThousandsSeparator() override { return thousands_; }
-
- private:
-  std::string decimal_, thousands_;
-};
 
 double ScaleOf(const std::string& formula) {
   return Extraction_info(WithReadableScale(formula), "").scale;
 }
 
 TEST(ScaleText, AHalfIsAHalfWhereThePointIsAThousandsMark) {
-  const Region german(",", ".");
+  const FixedRegion german(",", ".");
   EXPECT_EQ(WithReadableScale("=0.5+MAX(A2:C4)"), "=5E-1+MAX(A2:C4)");
   EXPECT_EQ(ScaleOf("=0.5+MAX(A2:C4)"), 0.5);
   EXPECT_EQ(ScaleOf("= 0.001 + LEN(\"a, b, c 1.5\")+MAX(A2:C4)"), 0.001);
@@ -39,22 +23,22 @@ TEST(ScaleText, AHalfIsAHalfWhereThePointIsAThousandsMark) {
 }
 
 TEST(ScaleText, OtherHeadsStayAsTheyAre) {
-  const Region german(",", ".");
+  const FixedRegion german(",", ".");
   for (const char* formula : {"=MAX(A2:C4)", "=5+MAX(A2:C4)", "=5.+MAX(A2:C4)", "=LEN(\"1.5\")+MAX(A2:C4)",
                               "1.5", "", "=", "= ", "='Sheet 1.5'.A1", "=A1+0.5+MAX(A2:C4)"})
     EXPECT_EQ(WithReadableScale(formula), formula);
 }
 
 TEST(ScaleText, ANumberOfNoughtsIsANought) {
-  const Region german(",", ".");
+  const FixedRegion german(",", ".");
   EXPECT_EQ(WithReadableScale("=0.00+MAX(A2:C4)"), "=0E-2+MAX(A2:C4)");
   EXPECT_EQ(ScaleOf("=0.00+MAX(A2:C4)"), 1) << "a scale of 0 is replaced by 1";
 }
 
 TEST(ScaleText, WhereThePointIsTheDecimalMarkOrNoneNothingChanges) {
-  const Region english(".", ",");
+  const FixedRegion english(".", ",");
   EXPECT_EQ(WithReadableScale("=0.5+MAX(A2:C4)"), "=0.5+MAX(A2:C4)");
-  const Region french(",", " ");
+  const FixedRegion french(",", " ");
   EXPECT_EQ(WithReadableScale("=0.5+MAX(A2:C4)"), "=0.5+MAX(A2:C4)");
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "FixedRegion.h"
 #include "NumberText.h"
 #include "WindowFixture.h"
 
@@ -395,17 +396,8 @@ TEST_F(SettingsTest, ASavedLineWidthIsThereAtTheNextStart) {
   EXPECT_EQ(USERFLAGfactory.ThicknessLinePlot, 1);
 }
 
-/// A machine with a comma as decimal mark and a point as thousands mark.
-class CommaRegion : public RegionalSettings {
- public:
-  CommaRegion() { SetRegionalSettings(this); }
-  ~CommaRegion() override { SetRegionalSettings(nullptr); }
-  std::string DecimalSeparator() override { return ","; }
-  std::string ThousandsSeparator() override { return "."; }
-};
-
 TEST_F(SettingsTest, AFractionThatIsSavedComesBackOnAMachineThatHasThePointAsThousandsMark) {
-  const CommaRegion region;
+  const FixedRegion region(",", ".");
   window.Text4[3].text = "0,5";
   EXPECT_EQ(USERFLAG.PositionFactor, 0.5);
   Command1_Click();
@@ -416,7 +408,7 @@ TEST_F(SettingsTest, AFractionThatIsSavedComesBackOnAMachineThatHasThePointAsTho
 }
 
 TEST_F(SettingsTest, TheCubicRangeOfAnActivationIsTheSameOnSuchAMachine) {
-  const CommaRegion region;
+  const FixedRegion region(",", ".");
   StartRunState();
   Load();
   Form_Activate();

@@ -3,11 +3,12 @@
 #include "CalcLink.h"
 #include "CommandLine.h"
 #include "PutBackSpreadsheet.h"
+#include "QtDesktop.h"
 #include "QtDialogs.h"
 #include "QtSettings.h"
 #include "SheetLink.h"
 #include "SystemDayClock.h"
-#include "SystemDesktop.h"
+#include "SystemDirectories.h"
 #include "SystemFiles.h"
 #include "SystemRegion.h"
 #include "ViewerWindow.h"
@@ -25,12 +26,18 @@ data file named, of eight characters or more, it shows that file and nothing els
   --version  show the version
 )";
 
+// An argument that the shell has taken out of its quotes gets them back: it is one word.
+std::string InQuotes(const std::string& argument) {
+  const bool isWord = argument.find_first_of(" ,") == argument.npos || argument.starts_with('"');
+  return isWord ? argument : '"' + argument + '"';
+}
+
 // The whole text behind the program's name.
 std::string WholeCommandLine(const std::vector<std::string>& arguments) {
   std::string line;
   for (const std::string& argument : arguments) {
     if (!line.empty()) line += ' ';
-    line += argument;
+    line += InQuotes(argument);
   }
   return line;
 }
@@ -46,7 +53,7 @@ int main(int argc, char** argv) {
   QtSettings settings;
   SystemFiles files;
   SystemRegion region;
-  SystemDesktop desktop;
+  QtDesktop desktop;
   SystemDayClock clock;
   dialogs.beforeEnd = [&settings] {
     PutBackSpreadsheet();
@@ -59,6 +66,8 @@ int main(int argc, char** argv) {
   desktop.opensDataFiles = true;
   SetDesktop(&desktop);
   SetDayClock(&clock);
+  SystemDirectories directories;
+  SetDirectories(&directories);
 
   CalcLink spreadsheet;
   SetSheetLink(&spreadsheet);

@@ -29,7 +29,7 @@ Draws the picture that the viewer shows of a data file, without a window.
   --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;
                      isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the
                      eight projections, 0 to 7; iso the plain isometric view
-                     (STEP is 0 when left out; without --view from above Z);
+                     (STEP is 0 when left out; without --view as the window does);
                      from:AZIMUTH,ELEVATION with Z upward, from a direction in
                      degrees, of X toward Y and then toward Z
   --zoom FACTOR      shows everything this many times larger (default 1)

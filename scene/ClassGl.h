@@ -57,6 +57,9 @@ class ClassGl : public PlotExtent {
   void init();
   /// Context ready: lights, camera, materials, fonts and the state of OpenGL.
   void InitGL();
+  /// Runs Reset() over a plot that is new, as each frame does first: for whoever places the camera before the
+  /// first frame. Needs no context.
+  void DigestPlot();
   /// Draws one frame. The host has cleared the colour buffer and set the matrices.
   void Draw();
   /// Over the finished frame: the plot's title.

@@ -46,12 +46,15 @@ bool SatelliteIsShown() {
 
 }  // namespace
 
+void ClassGl::DigestPlot() {
+  if (LastPoint + NbEvents == 0 || DEJADRAW != 0) return;
+  Reset();
+  if (USERFLAG.SynchroExcelComplete == 1.0) DEJADRAW = 1;
+}
+
 void ClassGl::Draw() {
   if (USERFLAG.LogoScale != 0) ForceBrandedLook();
-  if (LastPoint + NbEvents != 0 && DEJADRAW == 0) {
-    Reset();
-    if (USERFLAG.SynchroExcelComplete == 1.0) DEJADRAW = 1;
-  }
+  DigestPlot();
   Host.Animation().Update();
   if (GridsOn) Host.DrawGrids();
   glPushMatrix();

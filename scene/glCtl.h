@@ -169,8 +169,9 @@ class glCtl {
   /// The wait pointer over the whole program, while it writes a file.
   virtual void ShowBusy(bool busy) = 0;
 
-  /// The host's own turning of the scene, by a ball under the mouse: it turns while the pointer is that of
-  /// the mode "orbit" (207) and the left button is down. Pixels from the top left corner.
+  /// The host's own turning of the scene, by a ball under the mouse: it turns while the left button is down
+  /// and the pointer is that of the mode "orbit" (207), or the right button and the arrow (0), as in the mode
+  /// "select". Pixels from the top left corner.
   virtual void TrackballStart(int button, int x, int y) = 0;
   virtual void TrackballMove(int x, int y) = 0;
   virtual void TrackballEnd() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -121,9 +122,19 @@ class CheckBox : public Control {
   ControlValue<int> value{*this, 0};
 };
 
+/// Colours as R x 65536 + G x 256 + B.
+inline constexpr int kBlack = 0x000000;
+inline constexpr int kRed = 0xFF0000;
+
 /// A text field.
 class TextBox : public Control {
  public:
+  Shown<int> colour{*this, kBlack};
+  /// Where the caret stands and how many characters behind it are selected, in characters. The widget keeps
+  /// both up to date ahead of each change of the text.
+  Shown<int> selStart{*this, 0}, selLength{*this, 0};
+  /// Its event routines.
+  std::function<void()> clicked, doubleClicked;
   ControlValue<std::string> text{*this, ""};
 };
 
@@ -143,6 +154,16 @@ class ScrollBar : public Control {
   int max = 100;
   int largeChange = 10;
   ControlValue<int> value{*this, 0};
+
+  /// Gives the bar other bounds and another large step. A value that lies outside them moves to the nearer
+  /// bound, which runs the change routine.
+  void SetBounds(int newMin, int newMax, int newLargeChange) {
+    min = newMin;
+    max = newMax;
+    largeChange = newLargeChange;
+    Refresh();
+    value = std::clamp<int>(value, min, max);
+  }
 };
 
 /// An editable list.
@@ -164,16 +185,21 @@ class ProgressBar : public Control {
 /// A button.
 class Button : public Control {
  public:
-  std::string caption;
-  /// Its event routines: a click, and any key while it has the focus.
-  std::function<void()> clicked, keyPressed;
+  Shown<std::string> caption{*this, ""};
+  /// Its event routines: a click, any key while it has the focus, the pointer moves over it or leaves it.
+  std::function<void()> clicked, keyPressed, pointerMoved, pointerLeft;
 };
+
+/// Caption of a menu entry that is a line between others.
+inline constexpr const char* kSeparatorCaption = "-";
 
 /// An entry of the menu bar or of a menu.
 class Menu : public Control {
  public:
   std::string caption;
   Shown<bool> checked{*this, false};
+  /// What it opens, from the top; none for a command.
+  std::vector<Menu*> entries;
   /// Its event routine: the user chooses the entry.
   std::function<void()> clicked;
 };

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "Faults.h"
+
 namespace quorb {
 
 /// What the window asks of the desktop.
@@ -20,6 +22,18 @@ class Desktop {
   virtual void RegisterFileType() = 0;
   /// The directory mark of file names.
   virtual char DirectoryMark() const = 0;
+
+  /// The program's file name, without its directory.
+  virtual std::string ProgramName() const { return "QuorbExcelPro"; }
+  /// The date as "yyyymmdd", and the clock time in the system's short form with seconds ("09:15:02"). Both
+  /// may hold the marks of the locale.
+  virtual std::string DateText() const { return {}; }
+  virtual std::string TimeText() const { return {}; }
+  /// Shows a directory in the desktop's file manager, without giving it the focus. A failure is not told.
+  virtual void ShowDirectory(const std::string&) {}
+  /// Clears the clipboard and puts a text on it.
+  /// @return the number of the failure, kFaultNone for none, kFaultClipboard when it is locked.
+  virtual int CopyText(const std::string&) { return kFaultClipboard; }
 };
 
 /// The desktop of this process. Until one is set, the year is 0 and the directories are empty.

@@ -1,6 +1,5 @@
 #include "MovieDisplay.h"
 
-#include "NumberPicture.h"
 #include "UserFlag.h"
 #include "frmMain.h"
 #include "frmVideo.h"
@@ -29,9 +28,7 @@ void ShowMovieProgress() {
       Keep(labels.Text3, window.Text3);
       labels.kept = true;
     }
-    frmVideo().Text3.text = FormatPicture(USERFLAG.MovieFrameCount - 1, "#") + " / " +
-                            FormatPicture(USERFLAG.MovieFrames, "#") + " Frames ";
-    frmVideo().Text2.text = FormatPicture(USERFLAG.MovieFrameTime, "#.##") + " seconds between Frames";
+    frmVideo().ShowLines();
   } else if (labels.kept) {
     Restore(window.Text2, labels.Text2);
     Restore(window.Text3, labels.Text3);

@@ -9,11 +9,14 @@
 #include "Mth.h"
 #include "NumberPicture.h"
 #include "NumberText.h"
+#include "OptionBar.h"
 #include "PlotData.h"
 #include "RunState.h"
 #include "SatelliteControls.h"
 #include "Settings.h"
 #include "SettingsStore.h"
+#include "TextHelpers.h"
+#include "ToolbarCommand.h"
 #include "UserFlag.h"
 #include "frmMain.h"
 
@@ -68,6 +71,22 @@ double FittingSatelliteSize() {
   if (USERFLAG.NedInput == 1.0) return 0;
   const double size = 10 * std::pow(std::abs(1 / FactorScale / 3 / 80 * 6400 - 1), 1 / 1.5);
   return std::min<double>(size, frmMain->HScroll3.max);
+}
+
+// The text is red while it is not what the user typed; the caret keeps its place as far as the text goes.
+void ShowKeywordAsTaken(TextBox& box) {
+  const int caret = box.selStart;
+  box.colour = kRed;
+  box.text = MainKeyword;
+  box.selStart = std::min(caret, static_cast<int>(CharacterCount(MainKeyword)));
+}
+
+// The button that opened the panel is released, and closes it.
+void ReleaseOptionsButton() {
+  ToolButton& button = frmMain->ToolBoptions.Button(kOptionsButton);
+  button.SetValue(0);
+  ToolBoptions_ButtonClick(button);
+  frmMain->Command2.Tag.clear();
 }
 
 }  // namespace
@@ -146,8 +165,9 @@ void Text9_Change() {
   if (box.Tag == "1") return;
   box.Tag = "1";
   MainKeyword = UpTrim(box.text.Get());
-  box.text = MainKeyword;
+  if (MainKeyword != box.text.Get()) ShowKeywordAsTaken(box);
   StoreSingle(2, MainKeyword);
+  box.colour = kBlack;
   box.Tag.clear();
 }
 
@@ -182,7 +202,9 @@ void Command1_Click() {
 }
 
 void Command2_Click() {
+  if (frmMain->Command2.Tag == "ToolBoptions") return ReleaseOptionsButton();
   OptionsRead();
+  frmMain->Options.SendToBack();
   USERFLAG.SatelliteModelReady = 0;
   frmMain->Options.visible = false;
 }
@@ -205,7 +227,7 @@ void ImageDirRefresh() {
   } else {
     AppDir = window.Text6.text;
   }
-  window.imagespot.toolTip = "Save Image " + AppDir;
+  window.Toolbar1.Button(kImageButton).toolTip = "Save Image " + AppDir;
 }
 
 }  // namespace quorb

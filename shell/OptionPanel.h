@@ -21,7 +21,7 @@ void Text6_Change();
 /// Textures of Earth and Moon.
 void Text7_Change();
 void Text8_Change();
-/// The main keyword: trimmed and in upper case.
+/// The main keyword: trimmed and in upper case, whatever was typed.
 void Text9_Change();
 /// Size of the satellite, from the panel and from the strip below the plot.
 void HScroll3_Change();
@@ -30,7 +30,7 @@ void HScroll10_Change();
 void HScroll8_Change();
 /// Takes the panel's values and stores them; the panel stays open.
 void Command1_Click();
-/// Closes the panel and takes its values.
+/// Closes the panel and takes its values; the button of the tool bar that opened it is released.
 void Command2_Click();
 /// Shows the factory values on the panel. Nothing is stored.
 void Command3_Click();

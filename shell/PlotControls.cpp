@@ -50,9 +50,10 @@ void HScroll1_Change() {
   if (frmMain->RedrawTouched == 1) SlowDown();
   frmMain->RedrawTouched = 1;
   double place = bar.value;
+  const bool isHeld = RedrawState == 1;
   if (place == 0) bar.value = 1;
-  if (RedrawState == 1) {
-    place = FollowHeldRow(bar);
+  if (isHeld) {
+    place = RedrawState == 1 ? FollowHeldRow(bar) : bar.value.Get();
   } else {
     double flag = -1;
     TheScene->ChangeCURRINDEXI(LastPoint * place / bar.max, flag);

@@ -6,6 +6,7 @@
 
 #include "NumberPicture.h"
 #include "NumberText.h"
+#include "OptionBar.h"
 #include "RunState.h"
 #include "SettingsStore.h"
 #include "UserFlag.h"
@@ -118,6 +119,7 @@ void OptionsRead() {
   USERFLAG.EMView = EMSystem == 1 ? 1 : window.Check1[10].value.Get();
   USERFLAG.CubicView = window.Check9.value;
   USERFLAG.InMetres = window.Check10.value;
+  window.ToolBoptions.Button(kCubicButton).SetValue(window.Check9.value);
   ShowInteractiveInMenu();
 }
 

@@ -10,6 +10,7 @@
 #include "SheetSession.h"
 #include "SheetWatcher.h"
 #include "SpecificationHistory.h"
+#include "TextHelpers.h"
 #include "UserFlag.h"
 #include "frmMain.h"
 
@@ -17,7 +18,20 @@ namespace quorb {
 
 namespace {
 
+/// The longest formula that a worksheet takes.
+constexpr std::size_t kLongestFormula = 8192;
+
 constexpr int kKeyEnter = 13, kKeyPageUp = 33, kKeyPageDown = 34, kKeyLeft = 37, kKeyDown = 40;
+
+void TellWhenTooLong(const std::string& specification) {
+  const std::size_t length = CharacterCount(specification);
+  if (length <= kLongestFormula) return;
+  const std::string message = "The specification has " + std::to_string(length) +
+                              " characters: a formula of a worksheet has " + std::to_string(kLongestFormula) +
+                              " at most.";
+  frmMain->Text21.text = message;
+  LoaderLinkOfWindow().AppendLog(message);
+}
 
 }  // namespace
 
@@ -40,6 +54,7 @@ void Combo1_GotFocusRoutine() {
 void Combo1_Entered() {
   SpecTypedText = frmMain->Combo1.text;
   SpecTyped = 1;
+  TellWhenTooLong(SpecTypedText);
 }
 
 void Combo1_KeyDown(int KeyCode) {

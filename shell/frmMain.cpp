@@ -11,7 +11,9 @@
 #include "LoaderLink.h"
 #include "NumberPicture.h"
 #include "NumberText.h"
+#include "OptionBar.h"
 #include "OptionPanel.h"
+#include "OptionWindow.h"
 #include "PlotControls.h"
 #include "PlotData.h"
 #include "RunState.h"
@@ -21,6 +23,8 @@
 #include "SheetControls.h"
 #include "SheetWatcher.h"
 #include "TextHelpers.h"
+#include "ToolbarCommand.h"
+#include "ToolbarLayout.h"
 #include "UserFlag.h"
 
 namespace quorb {
@@ -33,6 +37,7 @@ int FirstActivated = 0;
 int OneShotView = 0;
 int ShiftState = 0;
 int LastKeyCode = 0;
+int LastKeyReleased = 0;
 int PlotWidth = 0, PlotHeight = 0;
 
 namespace {
@@ -55,6 +60,7 @@ void BuildVersionDigits() {
 
 std::string FirstToken(const std::string& commandLine) {
   const std::string_view line = Trim(commandLine);
+  if (line.starts_with('"')) return std::string(line.substr(1, line.find('"', 1) - 1));
   const char separator = line.find(',') != line.npos ? ',' : ' ';
   return std::string(line.substr(0, line.find(separator)));
 }
@@ -164,6 +170,15 @@ void StartScene(glCtl& host) {
   TheScene->EditState(static_cast<int>(MouseMode::pan));
   glxCtl1_DblClick();
   host.Animation().SetEnabled(true);
+  toolbarSet();
+}
+
+// The counter starts anew, so that the press brings the cubic view on whatever the user did before.
+void PressCubicView() {
+  ToolButton& button = frmMain->ToolBoptions.Button(kCubicButton);
+  frmMain->toolbarState.OptionToggles[2] = 0;
+  button.SetValue(1);
+  ToolBoptions_ButtonClick(button);
 }
 
 int WholePixels(double twips) {
@@ -177,7 +192,7 @@ void Form_Load(const std::string& commandLine, glCtl& host) {
   MoonSwitch = 0;
   StartFlag = 1;
   PenUpLabelShow = 1;
-  FirstActivated = ShiftState = LastKeyCode = 0;
+  FirstActivated = ShiftState = LastKeyCode = LastKeyReleased = 0;
   OneShotView = 0;
   ImportDirectory = CurrentDesktop().DataDirectory();
   BuildVersionDigits();
@@ -193,9 +208,12 @@ void Form_Activate() {
   MainWindow& window = *frmMain;
   if (FirstActivated != 1) {
     ImageDirRefresh();
+    RestoreToolbarLayout();
     DEJADRAW = DEJARESET = FileMode = 0;
     FirstActivated = 1;  // an activation while the load waits for the user starts no other one
     LoadPlot();
+    // Else the first frame would undo the orientation below.
+    TheScene->DigestPlot();
   }
   window.Command6.Tag.clear();
   FillLists();
@@ -208,7 +226,11 @@ void Form_Activate() {
     window.Check3.value = 1;
     window.Check4.value = 1;
   }
+  if (PenUpMode != 1) PressCubicView();
   window.Text4[4].text = WithDecimalMark("1.75");
+  constexpr int kOrientationPresses = 7;
+  for (int press = 0; press < kOrientationPresses; ++press)
+    Toolbar1_ButtonClick(window.Toolbar1.Button(kOrientationButton));
   LocalFollow = 1;
 }
 
@@ -227,12 +249,16 @@ void Form_Resize() {
   window.Text14.Top = bottom;
   window.TextTempo.Top = bottom - window.TextTempo.Height;
   window.Command6.Top = bottom - window.TextTempo.Height - window.Command6.Height;
+  if (window.Options.visible) BringOptionsInside();
   CurrentDialogs().PumpEvents();
 }
 
 void Form_KeyDown(int& KeyCode, int Shift) {
   LastKeyCode = KeyCode;
+  LastKeyReleased = 0;
   ShiftState = Shift;
+  std::string noButton;
+  ToolbarCommand(noButton);
   if (KeyCode == kKeyEnter && frmMain->Options.visible) {
     LastKeyCode = 0;
     Command2_Click();
@@ -253,6 +279,7 @@ void Form_KeyDown(int& KeyCode, int Shift) {
 
 void Form_KeyUp(int, int) {
   ShiftState = 0;
+  LastKeyReleased = 1;
 }
 
 void Form_Unload() {

@@ -18,8 +18,8 @@ namespace {
 
 constexpr std::size_t kListBatch = 256;
 constexpr int kGridMeshes = 20;
-constexpr int kLeftButton = 1;
-constexpr int kOrbitPointer = 207;
+constexpr int kLeftButton = 1, kRightButton = 2;
+constexpr int kArrowPointer = 0, kOrbitPointer = 207;
 /// A drag over the whole height of the view turns the scene by this.
 constexpr double kDegreesOverTheView = 180;
 
@@ -53,7 +53,9 @@ void GlHost::SetMousePointer(int id, const std::string& /*icon*/) {
 }
 
 void GlHost::TrackballStart(int button, int x, int y) {
-  trackball = {button == kLeftButton && mousePointer == kOrbitPointer, x, y};
+  const bool turns = (button == kLeftButton && mousePointer == kOrbitPointer) ||
+                     (button == kRightButton && mousePointer == kArrowPointer);
+  trackball = {turns, x, y};
 }
 
 void GlHost::TrackballMove(int x, int y) {

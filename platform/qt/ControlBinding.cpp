@@ -1,8 +1,15 @@
 #include "ControlBinding.h"
 
 #include <QElapsedTimer>
+#include <QMouseEvent>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "ControlNames.h"
+#include "frmDialog.h"
+#include "frmVideo.h"
 
 namespace quorb {
 
@@ -10,6 +17,9 @@ namespace {
 
 /// Characters at the end of a log that are shown; setting more of them would hold the window up.
 constexpr int kLongestShownLog = 200000;
+
+/// The least width of an editable list: its arrow can be hit.
+constexpr int kWidthOfArrow = 26;
 
 QString Text(const std::string& text) {
   return QString::fromStdString(text);
@@ -22,12 +32,84 @@ constexpr qint64 kBetweenPaintings = 150;
 void ShowState(QWidget& widget, const Control& control) {
   widget.setVisible(control.visible);
   widget.setEnabled(control.enabled);
-  widget.setToolTip(Text(control.toolTip));
+  widget.setToolTip(TipText(control.toolTip));
+  widget.setAccessibleDescription(Text(control.toolTip));
+}
+
+/// The name of a control among these; empty when it is none of them.
+std::string NameAmong(const std::vector<NamedControl>& all, const Control& control) {
+  for (const NamedControl& named : all) {
+    const Control* const known =
+        std::visit([](auto* any) { return static_cast<const Control*>(any); }, named.control);
+    if (known == &control) return named.name;
+  }
+  return {};
+}
+
+/// The same with the window's name in front.
+std::string NameAmong(const std::vector<NamedControl>& all, const Control& control,
+                      const std::string& window) {
+  const std::string name = NameAmong(all, control);
+  return name.empty() || name == window ? name : window + "." + name;
+}
+
+/// Runs a routine at each double click on a widget.
+class DoubleClicks : public QObject {
+ public:
+  DoubleClicks(QWidget& widget, const TextBox& control) : QObject(&widget), control_(control) {
+    widget.installEventFilter(this);
+  }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::MouseButtonDblClick || !control_.doubleClicked) return false;
+    control_.doubleClicked();
+    return true;
+  }
+
+ private:
+  const TextBox& control_;
+};
+
+void TakeText(const QLineEdit& widget, TextBox& control) {
+  // The widget is ahead of the control until the text is taken.
+  const auto refresh = std::exchange(control.refresh, nullptr);
+  control.selStart = widget.cursorPosition();
+  control.selLength = 0;
+  control.refresh = refresh;
+  control.text = widget.text().toStdString();
+}
+
+void ShowText(QLineEdit& widget, const TextBox& control) {
+  if (widget.text() != Text(control.text)) {
+    widget.setText(Text(control.text));
+    widget.setCursorPosition(control.selStart);
+  }
+  if (control.selLength > 0) widget.setSelection(control.selStart, control.selLength);
 }
 
 }  // namespace
 
+QString NameOf(const Control& control) {
+  std::string name = frmMain != nullptr ? NameAmong(NamedControls(*frmMain), control) : "";
+  if (name.empty()) name = NameAmong(NamedControls(frmVideo()), control, "frmVideo");
+  if (name.empty()) name = NameAmong(NamedControls(frmDialog()), control, "frmDialog");
+  return Text(name);
+}
+
+void TieWidget(QWidget& widget, Control& control) {
+  const QString name = NameOf(control);
+  if (!name.isEmpty()) widget.setObjectName(name);
+  QObject::connect(&widget, &QObject::destroyed,
+                   [&control] { control.takeFocus = control.refresh = nullptr; });
+}
+
+QString TipText(const std::string& toolTip) {
+  constexpr int kLongestLine = 60;
+  const QString text = Text(toolTip);
+  return text.size() <= kLongestLine ? text : "<qt>" + text.toHtmlEscaped() + "</qt>";
+}
+
 void BindBar(QScrollBar& widget, ScrollBar& control) {
+  TieWidget(widget, control);
   control.refresh = [&widget, &control] {
     const QSignalBlocker block(widget);
     ShowState(widget, control);
@@ -41,6 +123,7 @@ void BindBar(QScrollBar& widget, ScrollBar& control) {
 }
 
 void BindLabel(QLabel& widget, Label& control) {
+  TieWidget(widget, control);
   widget.setTextFormat(Qt::PlainText);
   control.refresh = [&widget, &control] {
     ShowState(widget, control);
@@ -50,6 +133,7 @@ void BindLabel(QLabel& widget, Label& control) {
 }
 
 void BindLine(QLabel& widget, TextBox& control) {
+  TieWidget(widget, control);
   widget.setTextFormat(Qt::PlainText);
   control.refresh = [&widget, &control] {
     ShowState(widget, control);
@@ -59,7 +143,9 @@ void BindLine(QLabel& widget, TextBox& control) {
 }
 
 void BindLog(QPlainTextEdit& widget, TextBox& control) {
+  TieWidget(widget, control);
   widget.setReadOnly(true);
+  new DoubleClicks(*widget.viewport(), control);
   control.refresh = [&widget, &control] {
     ShowState(widget, control);
     if (!control.visible) return;
@@ -69,9 +155,73 @@ void BindLog(QPlainTextEdit& widget, TextBox& control) {
   control.refresh();
 }
 
-void BindButton(CommandButton& widget, Button& control) {
+void BindField(QLineEdit& widget, TextBox& control) {
+  TieWidget(widget, control);
+  control.refresh = [&widget, &control] {
+    const QSignalBlocker block(widget);
+    ShowState(widget, control);
+    ShowText(widget, control);
+    const QColor colour(static_cast<QRgb>(control.colour.Get()));
+    widget.setStyleSheet(control.colour == kBlack ? QString() : "color: " + colour.name());
+  };
+  control.refresh();
+  control.takeFocus = [&widget] { widget.setFocus(); };
+  QObject::connect(&widget, &QLineEdit::textChanged, &widget,
+                   [&widget, &control] { TakeText(widget, control); });
+}
+
+void BindCheck(QCheckBox& widget, CheckBox& control) {
+  TieWidget(widget, control);
   widget.setText(Text(control.caption));
-  control.refresh = [&widget, &control] { ShowState(widget, control); };
+  control.refresh = [&widget, &control] {
+    const QSignalBlocker block(widget);
+    ShowState(widget, control);
+    widget.setCheckState(control.value == 0   ? Qt::Unchecked
+                         : control.value == 1 ? Qt::Checked
+                                              : Qt::PartiallyChecked);
+  };
+  control.refresh();
+  QObject::connect(&widget, &QCheckBox::clicked, &widget,
+                   [&control](bool checked) { control.value = checked ? 1 : 0; });
+}
+
+void BindList(QListWidget& widget, ListBox& control,
+              const std::function<QString(const std::string&)>& shown) {
+  TieWidget(widget, control);
+  control.refresh = [&widget, &control, shown] {
+    const QSignalBlocker block(widget);
+    ShowState(widget, control);
+    QStringList entries;
+    for (const std::string& entry : control.items.Get())
+      entries.append(shown(entry));
+    widget.clear();
+    widget.addItems(entries);
+    widget.setCurrentRow(control.selected);
+  };
+  control.refresh();
+  control.takeFocus = [&widget] { widget.setFocus(); };
+  // The routines may fill the list anew, which it must not see inside its own signal. A row that was waiting
+  // meanwhile belongs to the list as it was.
+  QObject::connect(
+      &widget, &QListWidget::currentRowChanged, &widget,
+      [&widget, &control](int row) {
+        if (row == widget.currentRow()) control.selected = row;
+      },
+      Qt::QueuedConnection);
+  QObject::connect(
+      &widget, &QListWidget::itemDoubleClicked, &widget,
+      [&control] {
+        if (control.doubleClicked) control.doubleClicked();
+      },
+      Qt::QueuedConnection);
+}
+
+void BindButton(CommandButton& widget, Button& control) {
+  TieWidget(widget, control);
+  control.refresh = [&widget, &control] {
+    ShowState(widget, control);
+    widget.setText(Text(control.caption));
+  };
   control.refresh();
   control.takeFocus = [&widget] { widget.setFocus(); };
   QObject::connect(&widget, &QPushButton::clicked, &widget, [&control] {
@@ -83,10 +233,12 @@ void BindButton(CommandButton& widget, Button& control) {
 }
 
 void BindSpecification(SpecificationBox& widget, ComboBox& control) {
+  TieWidget(widget, control);
   control.refresh = [&widget, &control] {
     const QSignalBlocker block(widget);
     ShowState(widget, control);
-    widget.setFixedWidth(static_cast<int>(std::lround(control.Width / kTwipsPerPixel)));
+    const int wanted = static_cast<int>(std::lround(control.Width / kTwipsPerPixel));
+    widget.setFixedWidth(std::max(wanted, kWidthOfArrow));
     QStringList entries;
     for (const std::string& entry : control.items.Get())
       entries.append(Text(entry));
@@ -112,6 +264,7 @@ void BindSpecification(SpecificationBox& widget, ComboBox& control) {
 }
 
 void BindProgress(QProgressBar& widget, ProgressBar& control) {
+  TieWidget(widget, control);
   widget.setRange(0, 100);
   widget.setTextVisible(false);
   QElapsedTimer sincePainted;
@@ -124,30 +277,6 @@ void BindProgress(QProgressBar& widget, ProgressBar& control) {
     sincePainted.restart();
   };
   control.refresh();
-}
-
-void BindMenu(QMenu& widget, Menu& control) {
-  widget.setTitle(Text(control.caption));
-  control.refresh = [&widget, &control] {
-    widget.menuAction()->setVisible(control.visible);
-    widget.setEnabled(control.enabled);
-  };
-  control.refresh();
-}
-
-void BindEntry(QAction& widget, Menu& control) {
-  widget.setText(Text(control.caption));
-  control.refresh = [&widget, &control] {
-    widget.setVisible(control.visible);
-    widget.setEnabled(control.enabled);
-    const QSignalBlocker block(widget);
-    widget.setCheckable(control.checked);
-    widget.setChecked(control.checked);
-  };
-  control.refresh();
-  QObject::connect(&widget, &QAction::triggered, &widget, [&control] {
-    if (control.clicked) control.clicked();
-  });
 }
 
 }  // namespace quorb

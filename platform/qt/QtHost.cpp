@@ -39,6 +39,11 @@ int HeldButton(const QMouseEvent& event) {
   return 0;
 }
 
+// The form has set the view by them already: the plot would step it again, or put the eye on the origin.
+bool IsKeyOfForm(int key) {
+  return key == Qt::Key_X || key == Qt::Key_Y || key == Qt::Key_Z || key == Qt::Key_I;
+}
+
 }  // namespace
 
 /// The host control of a widget.
@@ -157,6 +162,7 @@ void PlotWidget::initializeGL() {
 }
 
 void PlotWidget::resizeGL(int, int) {
+  host_->SetPixelRatio(devicePixelRatioF());
   const QSize size = DevicePixels(*this);
   if (events_ != nullptr) events_->Resize(size.width(), size.height());
 }
@@ -172,7 +178,7 @@ void PlotWidget::paintGL() {
 }
 
 void PlotWidget::keyPressEvent(QKeyEvent* event) {
-  if (events_ == nullptr) return;
+  if (events_ == nullptr || IsKeyOfForm(event->key())) return;
   const int code = KeyCodeOf(event->key());
   if (code != 0) events_->KeyDown(code, ShiftMaskOf(event->modifiers()));
   const bool isCharacter = !event->text().isEmpty() && event->key() != Qt::Key_Delete;

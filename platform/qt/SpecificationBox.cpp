@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <limits>
 
 #include "KeyCodes.h"
 
@@ -10,8 +11,6 @@ namespace quorb {
 
 namespace {
 
-/// Long enough for any formula of a worksheet.
-constexpr int kLongestFormula = 8192;
 const char* const kFocusedColours = "QComboBox { background-color: rgb(128, 0, 255); color: white; }";
 const char* const kPaleColours = "QComboBox { background-color: rgb(192, 255, 255); color: black; }";
 
@@ -21,7 +20,7 @@ SpecificationBox::SpecificationBox(QWidget* parent) : QComboBox(parent) {
   setEditable(true);
   setInsertPolicy(QComboBox::NoInsert);
   setCompleter(nullptr);
-  lineEdit()->setMaxLength(kLongestFormula);
+  lineEdit()->setMaxLength(std::numeric_limits<int>::max());  // nothing that is pasted gets lost unseen
   lineEdit()->installEventFilter(this);
   ShowColours(false);
 }
@@ -60,7 +59,9 @@ void SpecificationBox::focusOutEvent(QFocusEvent* event) {
       event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
   if (comesBack) return;
   ShowColours(false);
-  if (currentText() != textEntered_) Enter();
+  // A key of the view gives the plot the focus: what is half typed is no entry.
+  const bool leftByUser = event->reason() != Qt::OtherFocusReason;
+  if (leftByUser && currentText() != textEntered_) Enter();
 }
 
 bool SpecificationBox::eventFilter(QObject* watched, QEvent* event) {

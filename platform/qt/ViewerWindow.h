@@ -10,11 +10,15 @@
 
 class QLabel;
 class QPlainTextEdit;
-class QScrollBar;
 
 namespace quorb {
 
-/// The main window as the toolkit shows it: the plot, the strip of bars below it, the menus.
+class LineLabel;
+class ToolBarWidget;
+class ViewerStrip;
+
+/// The main window as the toolkit shows it: the menus, the tool bars, the plot, the strip below it and what
+/// floats over them.
 class ViewerWindow : public QMainWindow {
  public:
   ViewerWindow();
@@ -28,17 +32,28 @@ class ViewerWindow : public QMainWindow {
   std::function<void()> frameShown;
 
  protected:
+  bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void MakeWidgets();
-  QWidget* MakeBar(class ScrollBar& bar, class Label& label);
-  QScrollBar* MakeSlider(class ScrollBar& bar, QWidget* parent);
-  QWidget* MakeLocalView();
-  void MakeMenus();
+  void MakeTop();
+  void MakeStrip();
+  void MakeOverPlot();
+  void MakePanels();
+  void BindForm();
+  void OrderFocus();
   void RunDueTicks();
+  /// Shows what the mouse does in the plot.
+  void ShowMouseMode();
+  /// Takes the size over that the form was given, or gives the form the size back that the window keeps.
+  void TakeFormSize();
+  /// Tells the form how high the window's frame and the screen are.
+  void MeasureFrame();
+  /// Gives the form and the scene up, which outlive the window.
+  void LetGo();
   void LayOut();
   void PlaceWidgets();
   bool TakesKeysFirst(const QObject& watched) const;
@@ -48,7 +63,10 @@ class ViewerWindow : public QMainWindow {
 
   QWidget* canvas_ = nullptr;
   PlotWidget* plot_ = nullptr;
-  QWidget* strip_ = nullptr;
+  QWidget* top_ = nullptr;
+  ToolBarWidget* viewBar_ = nullptr;
+  ToolBarWidget* optionBar_ = nullptr;
+  ViewerStrip* strip_ = nullptr;
   QLabel* prompt_ = nullptr;
   CommandButton* demonstration_ = nullptr;
   QPlainTextEdit* log_ = nullptr;
@@ -56,7 +74,8 @@ class ViewerWindow : public QMainWindow {
   QElapsedTimer runTime_;
   std::int64_t lastTick_ = 0;
   bool redirecting_ = false;  ///< a key that gave the plot the focus is on its way to the plot
-  bool activated_ = false;
+  bool shown_ = false;
+  bool activated_ = false;  ///< the activation of the first show has begun
 };
 
 }  // namespace quorb

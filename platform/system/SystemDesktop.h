@@ -12,6 +12,9 @@ class SystemDesktop : public Desktop {
   std::string DataDirectory() const override;
   void RegisterFileType() override;
   char DirectoryMark() const override;
+  std::string ProgramName() const override;
+  std::string DateText() const override;
+  std::string TimeText() const override;
 
   /// Whether this program is the one that data files are opened with: the viewer sets it.
   bool opensDataFiles = false;

@@ -33,7 +33,7 @@ const std::vector<Example>& Examples() {
        "--view isonew:1 --set LengthAxisFactor=1 --set ThicknessLinePlot=2"},
       {"penuplabel",
        {"Title\tNearest stars", "PenUpLabelMode\t1", "ISOmode\t0", "TimeMax\t11.91"},
-       "--set ThicknessLinePlot=3 --set ColourAxisLabels=255,255,255"},
+       "--view from:-90,89.9 --set ThicknessLinePlot=3 --set ColourAxisLabels=255,255,255"},
       {"column", {"ColumnMode\t1", "LastPoint\t160"}},
       {"yzx", {"Title\tCoil that stands on Z", "LastPoint\t240"}},
       {"ned",
@@ -56,7 +56,7 @@ class ExamplePictures : public testing::Test {
  protected:
   void ExpectPicture(const std::string& file, const std::string& name, const std::string& view) const {
     const ProgramOutcome outcome =
-        run_.Run(QUORB_RENDER_PROGRAM, "'" + file + "' -o out.png --size 640x400 " + view);
+        run_.Run(QUORB_RENDER_PROGRAM, "'" + file + "' -o out.png --size 640x400 --set CubicView=0 " + view);
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(outcome.err, "");
     PixelImage image;

@@ -24,7 +24,10 @@ class QuorbRender : public testing::Test {
   void ExpectPicture(const std::string& name, const std::string& text,
                      const std::string& arguments = "") const {
     run_.Write("plot.qbv", text);
-    const ProgramOutcome outcome = Run("plot.qbv -o out.png --size 640x400 --set NoPlotEarth=1 " + arguments);
+    const bool isAsWindowBegins = arguments.find("--view") == arguments.npos;
+    const std::string cube = isAsWindowBegins ? "" : "--set CubicView=0 ";
+    const ProgramOutcome outcome =
+        Run("plot.qbv -o out.png --size 640x400 --set NoPlotEarth=1 " + cube + arguments);
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     PixelImage image;
     std::string error;
@@ -59,7 +62,7 @@ TEST_F(QuorbRender, HelpAndVersionAreAnsweredBeforeAnythingElse) {
             "  --view VIEW        isonew:STEP round the Z axis in eight steps, 0 to 7;\n"
             "                     isonewplus:STEP six corners of a cube, 0 to 5; proj:STEP the\n"
             "                     eight projections, 0 to 7; iso the plain isometric view\n"
-            "                     (STEP is 0 when left out; without --view from above Z);\n"
+            "                     (STEP is 0 when left out; without --view as the window does);\n"
             "                     from:AZIMUTH,ELEVATION with Z upward, from a direction in\n"
             "                     degrees, of X toward Y and then toward Z\n"
             "  --zoom FACTOR      shows everything this many times larger (default 1)\n"
@@ -166,7 +169,8 @@ TEST_F(QuorbRender, TheLocalFrameIsSeenFromARowOfTheTrajectory) {
 TEST_F(QuorbRender, SeparateObjectsCarryTheirLabels) {
   ExpectPicture("labels",
                 DataFileText("=0.5+LEN(\"PENUPLABEL kmday\")+MAX(A2:C4)+MAX(D2:D4)+MAX(E2:F4)",
-                             "-20\t-10\t0\t1\t1\tParis\r\n10\t20\t0\t2\t2\tRome\r\n0\t0\t0\t3\t3\tHere\r\n"));
+                             "-20\t-10\t0\t1\t1\tParis\r\n10\t20\t0\t2\t2\tRome\r\n0\t0\t0\t3\t3\tHere\r\n"),
+                "--view from:-90,89.9");
 }
 
 // ---- series -----------------------------------------------------------------------------------------------

@@ -65,6 +65,22 @@ TEST_F(Trackball, AnotherPointerTurnsNothing) {
   }
 }
 
+TEST_F(Trackball, WithTheArrowTheRightButtonTurns) {
+  host->SetMousePointer(0, "");
+  host->TrackballStart(kRight, 100, 0);
+  host->TrackballMove(100, 100);
+  ExpectEye(0, 100, 0);
+}
+
+TEST_F(Trackball, WithAnotherPointerTheRightButtonTurnsNothing) {
+  for (const int pointer : {200, 201, 202, 204, 206}) {
+    host->SetMousePointer(pointer, "");
+    host->TrackballStart(kRight, 100, 0);
+    host->TrackballMove(100, 100);
+    ExpectEye(0, 0, 100);
+  }
+}
+
 TEST_F(Trackball, AnotherButtonTurnsNothing) {
   host->SetMousePointer(kOrbitPointer, "");
   for (const int button : {0, kRight, 4}) {

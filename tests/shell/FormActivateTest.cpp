@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "WindowFixture.h"
 
 namespace quorb {
@@ -50,7 +52,7 @@ TEST_F(FormActivateTest, TheFirstActivationFixesTheDirectoryOfTheImages) {
   Form_Activate();
   EXPECT_EQ(AppDir, "/opt/quorb/");
   EXPECT_EQ(window.Text6.text.Get(), "/opt/quorb/");
-  EXPECT_EQ(window.imagespot.toolTip.Get(), "Save Image /opt/quorb/");
+  EXPECT_EQ(window.Toolbar1.Button(15).toolTip.Get(), "Save Image /opt/quorb/");
 }
 
 TEST_F(FormActivateTest, EveryActivationResetsTheCubicRange) {
@@ -73,6 +75,43 @@ TEST_F(FormActivateTest, EveryActivationPutsTheRunStateOfTheWindowBack) {
     EXPECT_EQ(window.Combo1.Width, 390);
     EXPECT_EQ(LocalFollow, 1);
   }
+}
+
+TEST_F(FormActivateTest, TheFirstActivationPutsTheOrderOfTheToolBarBack) {
+  settings.entries[{"UserQuorb/ToolBars", "5"}] = "3 2 1";
+  Form_Activate();
+  EXPECT_THAT(window.Toolbar1.order.Get(), ElementsAre(3, 2, 1));
+}
+
+TEST_F(FormActivateTest, EveryActivationBringsTheCubicViewOnOutsideThePenUpMode) {
+  for (int activation = 0; activation < 3; ++activation) {
+    Form_Activate();
+    EXPECT_EQ(window.Check9.value, 1) << activation;
+    EXPECT_EQ(window.ToolBoptions.Button(2).Value(), 1);
+    EXPECT_TRUE(window.HScroll8.visible);
+    EXPECT_TRUE(window.Text16.visible);
+  }
+  window.ToolBoptions.Button(2).SetValue(0);
+  window.ToolBoptions.buttonClicked(window.ToolBoptions.Button(2));
+  EXPECT_EQ(window.Check9.value, 0);
+  ActivateAgain("Transfer", 0);
+  EXPECT_EQ(window.Check9.value, 1);
+}
+
+TEST_F(FormActivateTest, ThePenUpModeLeavesTheCubicView) {
+  PenUpMode = 1;
+  ActivateAgain("Transfer", 0);
+  EXPECT_EQ(window.Check9.value, 0);
+  EXPECT_EQ(window.ToolBoptions.Button(2).Value(), 0);
+}
+
+TEST_F(FormActivateTest, EveryActivationPressesTheOrientationSevenTimesWithZUpward) {
+  ActivateAgain("Transfer", 0);
+  const auto& calls = RecordedCalls();
+  EXPECT_EQ(std::count(calls.begin(), calls.end(), "Camera.SetUp(0, 0, 1)"), 7);
+  EXPECT_EQ(TheScene->EditState(), 8);
+  // The press behind it keeps the axis, and turns one corner of the cube on: 8 corners in steps of 4.
+  EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 7 % 4);
 }
 
 TEST_F(FormActivateTest, APlotWithoutTimeSwitchesTheSatelliteAndItsArraysOff) {

@@ -1,3 +1,4 @@
+#include "ToolbarCommand.h"
 #include "WindowFixture.h"
 
 namespace quorb {
@@ -5,10 +6,13 @@ namespace {
 
 constexpr int kShift = 1, kControl = 2;
 
+/// The dispatcher of the tool bars has had its first call, which turns the view.
 class FormKeysTest : public WindowFixture {
  protected:
   FormKeysTest() {
     Load();
+    std::string noButton;
+    ToolbarCommand(noButton);
     frmMain->GlPlace.takeFocus = [this] { ++focused; };
     ClearCalls();
   }
@@ -77,22 +81,45 @@ TEST_F(FormKeysTest, IWithoutAModifierAsksForTheCornersOfTheCube) {
   frmMain->Check9.Tag = "";
   EXPECT_EQ(Press(73), 73);
   EXPECT_EQ(frmMain->Check9.Tag, "REAL_ISO");
-  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetUp(0, 1, 0)"));
-  // The first step over the corners: quadrant 1 is (-1, 1) round the axis Y.
-  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetPosition(100, 100, -100)"));
+  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetUp(0, 0, 1)"));
+  // The second step over the corners: quadrant 2 is (-1, -1) round the axis Z.
+  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetPosition(-100, -100, 100)"));
 }
 
 TEST_F(FormKeysTest, IWithAModifierTakesTheCornersBack) {
   EXPECT_EQ(frmMain->Check9.Tag, "REAL_ISO");
   Press(73, kShift);
   EXPECT_EQ(frmMain->Check9.Tag, "");
-  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetPosition(0, 100, 100)"));
+  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetPosition(100, 0, 100)"));
 }
 
-TEST_F(FormKeysTest, OtherKeysLeaveTheView) {
+TEST_F(FormKeysTest, OtherKeysLeaveTheViewAndPutTheMouseModeBack) {
   for (const int code : {13, 32, 40, 65, 84})
     Press(code);
-  EXPECT_THAT(RecordedCalls(), IsEmpty());
+  EXPECT_THAT(RecordedCalls(), testing::Each("SetMousePointer(201, \"\")"));
+  EXPECT_EQ(RecordedCalls().size(), 5U);
+}
+
+TEST_F(FormKeysTest, XYAndZPutTheirAxisUpward) {
+  const std::pair<int, const char*> keys[] = {
+      {'X', "Camera.SetUp(1, 0, 0)"}, {'Y', "Camera.SetUp(0, 1, 0)"}, {'Z', "Camera.SetUp(0, 0, 1)"}};
+  for (const auto& [key, up] : keys) {
+    ClearCalls();
+    EXPECT_EQ(Press(key), key);
+    EXPECT_THAT(RecordedCalls(), testing::Contains(up)) << key;
+  }
+}
+
+TEST_F(FormKeysTest, AKeyOnTheWayToTheSpecificationReachesTheViewToo) {
+  frmMain->Combo1.gotFocus();
+  Press('X');
+  EXPECT_THAT(RecordedCalls(), testing::Contains("Camera.SetUp(1, 0, 0)"));
+}
+
+TEST_F(FormKeysTest, EveryKeyWithdrawsAPendingReload) {
+  USERFLAG.UpdateAsked = 1.0;
+  Press('A');
+  EXPECT_EQ(USERFLAG.UpdateAsked, 0);
 }
 
 }  // namespace

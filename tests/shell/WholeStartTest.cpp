@@ -67,16 +67,17 @@ TEST_F(WholeStartTest, TheFirstFrameFindsAnEmptyPlot) {
   EXPECT_EQ(DEJADRAW, 0);
 }
 
+// The plot reaches 40, the scene 80: the activation has scaled it already.
 TEST_F(WholeStartTest, TheActivationFillsTheArraysFromTheNamedFile) {
   Start("/data/orbit.qbv");
   EXPECT_EQ(LastLoad().rows, 4);
   EXPECT_EQ(LastPoint, 3);
-  EXPECT_THAT(Row(0), ElementsAre(0, 10, 0, 0, 0));
-  EXPECT_THAT(Row(1), ElementsAre(1, 0, 20, 0, 0));
-  EXPECT_THAT(Row(2), ElementsAre(2, 0, 30, 0, -1));
-  EXPECT_THAT(Row(3), ElementsAre(3, 40, 0, 0, 0));
+  EXPECT_THAT(Row(0), ElementsAre(0, 20, 0, 0, 0));
+  EXPECT_THAT(Row(1), ElementsAre(1, 0, 40, 0, 0));
+  EXPECT_THAT(Row(2), ElementsAre(2, 0, 60, 0, -1));
+  EXPECT_THAT(Row(3), ElementsAre(3, 80, 0, 0, 0));
   EXPECT_EQ(MessageUserToPlot, "Test");
-  EXPECT_EQ(FactorScale, 0.01);
+  EXPECT_EQ(FactorScale, 0.02);
   EXPECT_EQ(ISOmode, 1);
   EXPECT_EQ(USERFLAG.TimeInData, 1.0);
   EXPECT_EQ(USERFLAG.SynchroExcelComplete, 1.0);
@@ -137,6 +138,7 @@ TEST_F(WholeStartTest, AtTheSpeedBehindALoadAShortPlotIsThereAtTheFirstPassedTic
 
 TEST_F(WholeStartTest, TheTrajectoryIsDrawnWithItsPenUp) {
   Start("/data/orbit.qbv");
+  frmMain->Check9.value = 0;
   events.Draw();
   Tick(5);
   EXPECT_THAT(Vertices(),
@@ -145,6 +147,7 @@ TEST_F(WholeStartTest, TheTrajectoryIsDrawnWithItsPenUp) {
 
 TEST_F(WholeStartTest, TheRedrawBarGoesBackAlongTheRows) {
   Start("/data/orbit.qbv");
+  frmMain->Check9.value = 0;
   events.Draw();
   Tick(5);
   frmMain->HScroll1.value = 3333;

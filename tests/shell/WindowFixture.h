@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "ActiveWindow.h"
 #include "ClassGl.h"
 #include "Clock.h"
 #include "CommExcl.h"
 #include "DataFile.h"
 #include "FakeDesktop.h"
 #include "GlRecorder.h"
+#include "Help.h"
 #include "MapSettingsStore.h"
 #include "MemoryFiles.h"
 #include "OptionPanel.h"
@@ -23,7 +25,9 @@
 #include "ScriptedDialogs.h"
 #include "Settings.h"
 #include "UserFlag.h"
+#include "frmDialog.h"
 #include "frmMain.h"
+#include "frmVideo.h"
 
 namespace quorb {
 
@@ -68,6 +72,10 @@ class WindowFixture : public testing::Test {
     TheScene.reset();
     glxCtl1 = nullptr;
     frmMain.reset();
+    ForgetVideoWindow();
+    ForgetFileDialog();
+    ForgetActiveWindow();
+    DemoShown = 0;
     SetLoaderWindow(nullptr);
     SetSceneWindow(nullptr);
     CloseChannel(1);

@@ -45,7 +45,8 @@ class RenderedPlot : public testing::Test {
 
   /// The picture of the file that was written last.
   PixelImage Picture(const std::string& arguments) const {
-    const ProgramOutcome outcome = run_.Run(QUORB_RENDER_PROGRAM, "plot.qbv -o out.png " + arguments);
+    const ProgramOutcome outcome =
+        run_.Run(QUORB_RENDER_PROGRAM, "plot.qbv -o out.png --set CubicView=0 " + arguments);
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_EQ(outcome.err, "");
     PixelImage image;

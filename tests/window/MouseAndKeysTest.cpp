@@ -116,16 +116,38 @@ TEST_F(MouseAndKeys, ACharacterPutsTheEyeOnTheOrigin) {
   EXPECT_EQ(std::vector<float>({x, y, z}), std::vector<float>({0, 1, 0}));
 }
 
-// The form steps the isometric walk, the plot steps it again, and the character then puts the eye on the
-// origin.
-TEST_F(MouseAndKeys, TheKeyIInThePlotStepsTwiceAndEndsAtTheOrigin) {
+TEST_F(MouseAndKeys, TheKeyIInThePlotStepsOnceAndShowsTheView) {
   OpenSmallPlot();
   plot->setFocus();
   TheScene->CameraSteps.RealQuadrant = 0;
   Key(Qt::Key_I);
   EXPECT_EQ(frmMain->Check9.Tag, "REAL_ISO");
-  EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 2);
-  ExpectEye(0, 0, 0);
+  EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 1);
+  ExpectEye(-100, 100, 100);
+}
+
+TEST_F(MouseAndKeys, TheKeysOfTheVerticalAxisInThePlotShowTheirView) {
+  OpenSmallPlot();
+  plot->setFocus();
+  for (const Qt::Key key : {Qt::Key_X, Qt::Key_Y, Qt::Key_Z}) {
+    Key(key);
+    float x = 0, y = 0, z = 0;
+    glxCtl1->Camera().GetPosition(x, y, z);
+    EXPECT_EQ(std::abs(x), 100) << key;
+    EXPECT_EQ(std::abs(y), 100) << key;
+    EXPECT_EQ(std::abs(z), 100) << key;
+  }
+}
+
+TEST_F(MouseAndKeys, InTheModeSelectARightDragTurnsTheCamera) {
+  OpenSmallPlot();
+  TheScene->EditState(1);
+  glxCtl1->Camera().Look(0, 0, 100, 0, 0, 0, 0, 1, 0);
+  Press(Qt::RightButton, 300, 100);
+  MoveTo(300, 100 + plot->height() / 2);
+  Release(Qt::RightButton, 300, 100 + plot->height() / 2);
+  ExpectEye(0, 100, 0);
+  ExpectWindow(-100, 100, -100, 100);
 }
 
 TEST_F(MouseAndKeys, TheKeyIOutsideThePlotStepsOnceAndShowsTheView) {
@@ -133,9 +155,9 @@ TEST_F(MouseAndKeys, TheKeyIOutsideThePlotStepsOnceAndShowsTheView) {
   window->findChild<QScrollBar*>()->setFocus();
   TheScene->CameraSteps.RealQuadrant = 0;
   Key(Qt::Key_I);
-  // Quadrant 1 round the axis Y: B 100, 100, A 100, with A -1 and B 1.
+  // Quadrant 1 round the axis Z: A 100, B 100, 100, with A -1 and B 1.
   EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 1);
-  ExpectEye(100, 100, -100);
+  ExpectEye(-100, 100, 100);
 }
 
 TEST_F(MouseAndKeys, KeysWithoutACharacterLeaveTheEye) {

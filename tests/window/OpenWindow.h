@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "ActiveWindow.h"
 #include "ClassGl.h"
 #include "Clock.h"
 #include "CommExcl.h"
@@ -19,17 +20,20 @@
 #include "LoaderLink.h"
 #include "PlotData.h"
 #include "ProgramRun.h"
+#include "QtDesktop.h"
 #include "QtDialogs.h"
 #include "QtSettings.h"
 #include "RunState.h"
 #include "SettingsStore.h"
 #include "SystemDayClock.h"
-#include "SystemDesktop.h"
+#include "SystemDirectories.h"
 #include "SystemFiles.h"
 #include "SystemRegion.h"
 #include "UserFlag.h"
 #include "ViewerWindow.h"
+#include "frmDialog.h"
 #include "frmMain.h"
+#include "frmVideo.h"
 
 namespace quorb {
 
@@ -54,6 +58,7 @@ class OpenWindow : public testing::Test {
     SetRegionalSettings(&region);
     SetDesktop(&desktop);
     SetDayClock(&clock);
+    SetDirectories(&directories);
     StartRunState();
     RedrawState = 0;
   }
@@ -63,9 +68,13 @@ class OpenWindow : public testing::Test {
     TheScene.reset();
     glxCtl1 = nullptr;
     frmMain.reset();
+    ForgetVideoWindow();
+    ForgetFileDialog();
+    ForgetActiveWindow();
     SetSceneWindow(nullptr);
     SetLoaderWindow(nullptr);
     SetDayClock(nullptr);
+    SetDirectories(nullptr);
   }
 
   /// Shows a data file and waits for the first frames of its plot.
@@ -141,8 +150,9 @@ class OpenWindow : public testing::Test {
   QtSettings settings;
   SystemFiles files;
   SystemRegion region;
-  SystemDesktop desktop;
+  QtDesktop desktop;
   SystemDayClock clock;
+  SystemDirectories directories;
   std::unique_ptr<ViewerWindow> window;
   QOpenGLWidget* plot = nullptr;
   std::vector<Clock::time_point> frameTimes;

@@ -9,6 +9,22 @@
 #include "TemporaryDirectory.h"
 #include "VirtualDisplay.h"
 
+namespace {
+
+struct ScreenSize {
+  int width = 1280, height = 900;
+};
+
+// The size of the screen, which tests that start this program again choose: QUORB_TEST_SCREEN=1366x768.
+ScreenSize SizeOfScreen() {
+  ScreenSize size;
+  const char* const wanted = std::getenv("QUORB_TEST_SCREEN");
+  if (wanted != nullptr) std::sscanf(wanted, "%dx%d", &size.width, &size.height);
+  return size;
+}
+
+}  // namespace
+
 // Runs the tests on a display of their own, with settings of their own.
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -22,7 +38,8 @@ int main(int argc, char** argv) {
   std::filesystem::permissions(runtime, std::filesystem::perms::owner_all);
   setenv("XDG_RUNTIME_DIR", runtime.c_str(), 1);
 
-  const quorb::VirtualDisplay display(1280, 900);
+  const ScreenSize screen = SizeOfScreen();
+  const quorb::VirtualDisplay display(screen.width, screen.height);
   if (!display.Works()) {
     std::fputs("Xvfb did not start.\n", stderr);
     return 1;

@@ -494,6 +494,7 @@ TEST_F(Journey, TwoProgramsShareTheirSettingsAndTheLaterValueStays) {
   const char* const blues[] = {"111", "222"};
   for (std::size_t viewer = 0; viewer < 2; ++viewer) {
     Drive("windowraise " + windows[viewer] + " windowfocus --sync " + windows[viewer]);
+    ASSERT_TRUE(Until([&] { return TitleIsThatOf(file); }));
     ClickTool(kOptionsTool);
     TypeBackground(BackgroundBoxes(), {"10", "20", blues[viewer]});
     const std::vector<Place> buttons = ButtonsOf(PanelPlace());

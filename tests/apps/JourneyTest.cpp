@@ -31,6 +31,8 @@ enum Tool {
   kOptionsTool = 17
 };
 constexpr std::size_t kTools = 19;
+/// The middle rows of the bar that holds them.
+constexpr int kToolRows = 20, kToolsAbovePlot = 32;
 
 /// Ranks of the entries of the menu "File" that can be chosen.
 enum FileEntry { kOpenEntry, kSaveImageEntry, kMovieEntry, kSlideShowEntry, kOptionsEntry, kExitEntry };
@@ -93,10 +95,10 @@ class Journey : public ViewerProgram {
 
   /// The tools from the left: the icons in the middle rows of the bar above the plot.
   std::vector<Place> Tools() const {
-    constexpr int kRows = 20, kFromPlot = 32, kGap = 3, kLeastWidth = 12;
+    constexpr int kGap = 3, kLeastWidth = 12;
     const PixelImage screen = Screen();
-    const int top = PlotOn(screen).y - kFromPlot;
-    std::vector<Place> tools = ThingsAcross(screen, {0, top, screen.width, kRows}, kGap, kLeastWidth);
+    const int top = PlotOn(screen).y - kToolsAbovePlot;
+    std::vector<Place> tools = ThingsAcross(screen, {0, top, screen.width, kToolRows}, kGap, kLeastWidth);
     EXPECT_GE(tools.size(), kTools);
     tools.resize(kTools);
     return tools;
@@ -107,10 +109,12 @@ class Journey : public ViewerProgram {
   void Choose(std::size_t menu, int entry) const {
     constexpr Place kMenuBar = {2, 3, 400, 12};
     constexpr int kBetweenMenus = 8, kLeastWidth = 12;
-    const std::vector<Place> menus = ThingsAcross(Screen(), kMenuBar, kBetweenMenus, kLeastWidth);
+    const PixelImage closed = Screen();
+    const std::vector<Place> menus = ThingsAcross(closed, kMenuBar, kBetweenMenus, kLeastWidth);
     ASSERT_GT(menus.size(), menu);
+    const Place below = {menus[menu].x, PlotOn(closed).y - kToolsAbovePlot, menus[menu].width, kToolRows};
     Click(menus[menu]);
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    ASSERT_TRUE(Until([&] { return Cut(Screen(), below).rgb != Cut(closed, below).rgb; })) << "it opens";
     std::string keys;
     for (int down = 0; down <= entry; ++down)
       keys += "Down ";
@@ -425,15 +429,11 @@ TEST_F(Journey, TheHelpLeadsToTheDemonstrationAndBackToTheOwnPlotAndColours) {
   EXPECT_TRUE(Until([&] { return BackgroundIs(kRusty); }));
   for (const bool runsDemonstration : {true, false}) {
     Choose(kHelpMenu, 0);
-    for (const std::string page : {"^1/4", "^2/4", "^31/4"}) {
-      ASSERT_TRUE(FocusOn(page)) << page;
-      Keys("Return");
-    }
-    ASSERT_TRUE(FocusOn("^4/4"));
-    Keys(runsDemonstration ? "Return" : "Escape");
+    for (const std::string page : {"^1/4", "^2/4", "^31/4"})
+      ASSERT_TRUE(Answer(page, "Return")) << page;
+    ASSERT_TRUE(Answer("^4/4", runsDemonstration ? "Return" : "Escape"));
     if (runsDemonstration) {
-      ASSERT_TRUE(FocusOn("Demo default"));
-      Keys("Return");
+      ASSERT_TRUE(Answer("Demo default", "Return"));
     }
     ASSERT_TRUE(FocusOn("^Quorb"));
     if (runsDemonstration) {
@@ -479,7 +479,7 @@ TEST_F(Journey, TwoProgramsShareTheirSettingsAndTheLaterValueStays) {
   std::vector<std::unique_ptr<Background>> viewers;
   std::vector<std::string> windows;
   const auto ids = [this] {
-    std::istringstream answer(Drive("search --onlyvisible --name '^Quorb'").out);
+    std::istringstream answer(Search("^Quorb").out);
     return std::set<std::string>(std::istream_iterator<std::string>(answer), {});
   };
   for (int viewer = 0; viewer < 2; ++viewer) {

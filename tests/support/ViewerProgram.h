@@ -72,10 +72,10 @@ class ViewerProgram : public testing::Test {
   /// Starts it without a file: nothing is there but the demonstration, which it shows behind a Cancel.
   std::unique_ptr<Background> StartOnDemonstration(const std::string& directory = "") const {
     auto viewer = Start("", directory);
-    EXPECT_TRUE(FocusOn("Excel not running!"));
-    Keys("Escape");
+    EXPECT_TRUE(Answer("Excel not running!", "Escape"));
     EXPECT_TRUE(FocusOn("^Quorb"));
     EXPECT_TRUE(Until([this] { return TitleIsThatOf(QUORB_DEMONSTRATION); }));
+    WaitForLayout();
     return viewer;
   }
 
@@ -90,7 +90,7 @@ class ViewerProgram : public testing::Test {
 
   /// Ends it as a window manager's close button does. The exit status.
   int Close(Background& viewer) const {
-    const std::string window = Drive("search --onlyvisible --name '^Quorb'").out;
+    const std::string window = Search("^Quorb").out;
     if (window.empty() || !CloseWindow(display_.Name(), std::stoul(window))) return -3;
     return viewer.Wait(std::chrono::seconds(10));
   }
@@ -117,6 +117,18 @@ class ViewerProgram : public testing::Test {
     }
     ADD_FAILURE() << "the screen does not come to rest";
     return last;
+  }
+
+  /// Waits until the plot keeps its place, though what it shows may move.
+  void WaitForLayout() const {
+    constexpr int kTimes = 5;
+    int last = 0, times = 0;
+    EXPECT_TRUE(Until([&] {
+      const int height = PlotOn(Screen()).height;
+      times = height > 0 && height == last ? times + 1 : 0;
+      last = height;
+      return times == kTimes;
+    }));
   }
 
   PixelImage Plot() const {
@@ -189,13 +201,25 @@ class ViewerProgram : public testing::Test {
   ProgramOutcome Drive(const std::string& words) const {
     return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " timeout 15 xdotool " + words);
   }
+  /// What is known of the windows with this title. A search that comes upon a window, such as a menu, which
+  /// goes away meanwhile ends with an error of the display, and is done again.
+  ProgramOutcome Search(const std::string& title, const std::string& then = "") const {
+    ProgramOutcome found;
+    for (int attempt = 0; attempt < 5; ++attempt) {
+      found = Drive("search --onlyvisible --name '" + title + "' " + then);
+      if (found.err.find("BadWindow") == found.err.npos && found.err.find("BadMatch") == found.err.npos)
+        break;
+    }
+    return found;
+  }
+  bool IsOpen(const std::string& title) const { return Search(title).status == 0; }
   bool WaitForWindow(const std::string& title) const {
-    return Drive("search --sync --onlyvisible --name '" + title + "'").status == 0;
+    return Until([&] { return IsOpen(title); });
   }
   /// Where a window stands, without its frame.
   Place PlaceOf(const std::string& title) const {
-    const std::string answer =
-        Drive("search --sync --onlyvisible --name '" + title + "' getwindowgeometry --shell").out;
+    EXPECT_TRUE(WaitForWindow(title)) << title;
+    const std::string answer = Search(title, "getwindowgeometry --shell").out;
     Place place;
     for (const auto& [name, number] :
          {std::pair{"X=", &place.x}, std::pair{"Y=", &place.y}, std::pair{"WIDTH=", &place.width},
@@ -205,12 +229,16 @@ class ViewerProgram : public testing::Test {
     }
     return place;
   }
-  bool IsOpen(const std::string& title) const {
-    return Drive("search --onlyvisible --name '" + title + "'").status == 0;
-  }
   /// Waits for a window and gives it the keyboard, as a window manager would.
   bool FocusOn(const std::string& title) const {
-    return Drive("search --sync --onlyvisible --name '" + title + "' windowfocus --sync").status == 0;
+    return Until([&] { return Search(title, "windowfocus --sync").status == 0; });
+  }
+  /// Waits for a dialog, gives it a key that ends it, and waits until it is gone: a window behind it that is
+  /// given the keyboard earlier hands it back.
+  bool Answer(const std::string& title, const std::string& key) const {
+    if (!FocusOn(title)) return false;
+    Keys(key);
+    return Until([&] { return !IsOpen(title); });
   }
   void Keys(const std::string& keys) const { Drive("key --delay 30 " + keys); }
   void Type(const std::string& text) const { Drive("type --delay 15 -- '" + text + "'"); }

@@ -65,9 +65,10 @@ class VirtualDisplay {
     int ends[2] = {-1, -1};
     if (pipe(ends) != 0) return;
     const std::string screen = std::to_string(width) + "x" + std::to_string(height) + "x24";
-    server_ = std::make_unique<Background>(
-        std::vector<std::string>{"Xvfb", "-displayfd", "3", "-screen", "0", screen, "-nolisten", "tcp"},
-        std::vector<std::string>{}, ends[1]);
+    // A server that resets itself behind its last client refuses whoever comes meanwhile.
+    server_ = std::make_unique<Background>(std::vector<std::string>{"Xvfb", "-displayfd", "3", "-screen", "0",
+                                                                    screen, "-nolisten", "tcp", "-noreset"},
+                                           std::vector<std::string>{}, ends[1]);
     close(ends[1]);
     char digit = 0;
     while (read(ends[0], &digit, 1) == 1 && digit != '\n')

@@ -12,6 +12,7 @@ namespace quorb {
 
 namespace {
 
+constexpr const char* kDemonstration = "QuorbExcelProDemo.qbv";
 constexpr auto kDirectoryMark = static_cast<char>(std::filesystem::path::preferred_separator);
 
 bool EndsWithMark(const std::string& text) {
@@ -55,13 +56,19 @@ void OpenNamedFile(int& ErrorNumber, LoaderWindow& window) {
   OpenfileW(FILEcOMMANDnAME, 1, ErrorNumber, window);
 }
 
+bool IsMissing(int ErrorNumber) {
+  return ErrorNumber == kFaultFileNotFound || ErrorNumber == kFaultPathNotFound;
+}
+
 void OpenLastFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {
   const std::string readingName = CurrentFileAccess().RealLocation(names.NameTempo);
   OpenfileW(readingName, 1, ErrorNumber, window);
   window.ShowReadingName(readingName);
-  if (ErrorNumber == kFaultFileNotFound || ErrorNumber == kFaultPathNotFound || FileMode == 1) {
+  if (IsMissing(ErrorNumber) || FileMode == 1) {
     OpenfileW(names.NameTempoDemo, 1, ErrorNumber, window);
     window.AppendLog("NameTempoDemo$ " + names.NameTempoDemo);
+    if (IsMissing(ErrorNumber) && !names.ShippedDemo.empty())
+      OpenfileW(names.ShippedDemo, 1, ErrorNumber, window);
   }
 }
 
@@ -69,7 +76,18 @@ void OpenLastFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& wi
 
 PlotFileNames BuildPlotFileNames() {
   AppDir = WithMark(AppDir);
-  return {AppDir + "_QuorbExcelPro.qbv", AppDir + "QuorbExcelProDemo.qbv"};
+  const bool shipsElsewhere = !ProgramDir.empty() && WithMark(ProgramDir) != AppDir;
+  return {AppDir + "_QuorbExcelPro.qbv", AppDir + kDemonstration,
+          shipsElsewhere ? WithMark(ProgramDir) + kDemonstration : std::string()};
+}
+
+std::vector<std::string> PlotFilesInTurn() {
+  const PlotFileNames names = BuildPlotFileNames();
+  std::vector<std::string> files;
+  if (FileMode != 1) files.push_back(CurrentFileAccess().RealLocation(names.NameTempo));
+  files.push_back(names.NameTempoDemo);
+  if (!names.ShippedDemo.empty()) files.push_back(names.ShippedDemo);
+  return files;
 }
 
 bool ChooseFile(const PlotFileNames& names, int& ErrorNumber, LoaderWindow& window) {

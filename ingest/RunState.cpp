@@ -28,6 +28,7 @@ int MaybeExtError = 0;
 int LoadsStarted = 0;
 std::string MainKeyword = "MAX";
 std::string AppDir;
+std::string ProgramDir;
 std::string ImportDirectory;
 
 int ISOmode = 0;
@@ -68,6 +69,7 @@ void StartLoadState() {
   NoWorkbookTold = WatchFaultTold = MaybeExtError = LoadsStarted = 0;
   MainKeyword = "MAX";
   AppDir.clear();
+  ProgramDir.clear();
   ImportDirectory.clear();
 }
 

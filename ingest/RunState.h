@@ -52,6 +52,8 @@ extern int LoadsStarted;
 extern std::string MainKeyword;
 /// The program's directory, or the place where the user chose that images go.
 extern std::string AppDir;
+/// Where the program and the files that ship with it stand; empty when unknown.
+extern std::string ProgramDir;
 /// Directory of the two fixed import files; empty for none.
 extern std::string ImportDirectory;
 

@@ -21,7 +21,7 @@ void LoadNamedFile(const std::string& path) {
   frmMain->fileTypeStored = true;  // a program without a window opens no data files for the desktop
   OptionsRead();
   USERFLAGfactory = USERFLAG;
-  AppDir = CurrentDesktop().ProgramDirectory();
+  AppDir = ProgramDir = CurrentDesktop().ProgramDirectory();
   ImportDirectory = CurrentDesktop().DataDirectory();
   LoadPlot();
 }

@@ -221,6 +221,7 @@ void Command3_Click() {
 
 void ImageDirRefresh() {
   MainWindow& window = *frmMain;
+  ProgramDir = CurrentDesktop().ProgramDirectory();
   if (window.Text6.text.Get().empty()) {
     AppDir = CurrentDesktop().ProgramDirectory() + CurrentDesktop().DirectoryMark();
     window.Text6.text = AppDir;

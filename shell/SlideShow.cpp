@@ -1,10 +1,12 @@
 #include "SlideShow.h"
 
 #include <algorithm>
+#include <memory>
 #include <string_view>
 
 #include "Desktop.h"
 #include "FileAccess.h"
+#include "FileChoice.h"
 #include "MenuFaults.h"
 #include "RunState.h"
 #include "SaveImage.h"
@@ -15,7 +17,6 @@ namespace quorb {
 
 namespace {
 
-constexpr const char* kPlotFile = "_QuorbExcelPro.qbv";
 constexpr double kPanelTop = 1200, kPanelLeft = 600;
 
 std::string WithMark(const std::string& directory) {
@@ -24,9 +25,11 @@ std::string WithMark(const std::string& directory) {
 }
 
 // A plot that cannot be copied leaves the line as it is.
-void CopyPlotFile(const std::string& from, const std::string& to) {
+void CopyPlotFile(const std::string& to) {
   int ErrorNumber = 0;
-  const auto source = CurrentFileAccess().Map(from, ErrorNumber);
+  std::unique_ptr<MappedFile> source;
+  for (const std::string& file : PlotFilesInTurn())
+    if (source == nullptr) source = CurrentFileAccess().Map(file, ErrorNumber);
   if (source == nullptr) return;
   const auto copy = CurrentFileAccess().Create(to);
   if (copy != nullptr && copy->Write(source->Bytes())) copy->Commit();
@@ -34,9 +37,8 @@ void CopyPlotFile(const std::string& from, const std::string& to) {
 
 /// The copy's real location.
 std::string MakeSlideShowCopy(const std::string& directory) {
-  const FileAccess& files = CurrentFileAccess();
-  std::string copy = files.RealLocation(directory + "PowerPoint" + TimeStamp() + ".qbv");
-  CopyPlotFile(files.RealLocation(directory + kPlotFile), copy);
+  std::string copy = CurrentFileAccess().RealLocation(directory + "PowerPoint" + TimeStamp() + ".qbv");
+  CopyPlotFile(copy);
   return copy;
 }
 

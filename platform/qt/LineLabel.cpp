@@ -30,8 +30,10 @@ QString LineLabel::Shown() const {
 }
 
 bool LineLabel::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && Shown() != text()) {
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+  if (event->type() == QEvent::ToolTip && Shown() != text()) {
+    // As paragraphs, since a text in which "<" stands would be taken for markup.
+    const QString whole = toolTip().isEmpty() ? text() : text() + "\n" + toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(whole), this);
     return true;
   }
   return QLabel::event(event);

@@ -72,6 +72,28 @@ TEST_F(FileChoiceTest, WithoutItTheDemonstrationFileIsOpened) {
                           " The demo will be shown False"));
 }
 
+TEST_F(FileChoiceTest, WhereTheImagesGoElsewhereTheDemonstrationBesideTheProgramIsOpened) {
+  AppDir = "/home/user/images";
+  ProgramDir = "/app";
+  files.contents["/app/QuorbExcelProDemo.qbv"] = "demo";
+  EXPECT_FALSE(Choose());
+  EXPECT_EQ(ErrorNumber, 0);
+  EXPECT_EQ(OpenedLine(), "demo");
+  EXPECT_THAT(PlotFilesInTurn(),
+              ElementsAre("/home/user/images/_QuorbExcelPro.qbv", "/home/user/images/QuorbExcelProDemo.qbv",
+                          "/app/QuorbExcelProDemo.qbv"));
+  files.contents["/home/user/images/QuorbExcelProDemo.qbv"] = "theirs";
+  EXPECT_FALSE(Choose());
+  EXPECT_EQ(OpenedLine(), "theirs") << "the one that stands there goes before";
+}
+
+TEST_F(FileChoiceTest, APlotFileBesideTheDemonstrationIsPassedOverWhileThatIsShown) {
+  ProgramDir = "/app/";
+  EXPECT_THAT(PlotFilesInTurn(), ElementsAre("/app/_QuorbExcelPro.qbv", "/app/QuorbExcelProDemo.qbv"));
+  FileMode = 1;
+  EXPECT_THAT(PlotFilesInTurn(), ElementsAre("/app/QuorbExcelProDemo.qbv"));
+}
+
 TEST_F(FileChoiceTest, AMissingDirectoryLeadsToTheDemonstrationFileToo) {
   files.failures["/app/_QuorbExcelPro.qbv"] = 76;
   files.contents["/app/QuorbExcelProDemo.qbv"] = "demo";

@@ -35,6 +35,18 @@ TEST_F(SlideShowTest, APlotThatStandsInTheUsersDirectoryIsCopiedThere) {
   EXPECT_EQ(files.contents["/home/user/data/PowerPoint20260703_091502.qbv"], "From: plot");
 }
 
+TEST_F(SlideShowTest, OverTheDemonstrationThatIsCopied) {
+  files.contents["/opt/quorb/QuorbExcelProDemo.qbv"] = "From: demo";
+  const std::string copy = "/opt/quorb/PowerPoint20260703_091502.qbv";
+  EXPECT_EQ(Line(), "\"/opt/quorb/QuorbExcelPro\" " + copy);
+  EXPECT_EQ(files.contents[copy], "From: demo") << "nothing was loaded from a sheet";
+  files.contents.erase(copy);
+  files.contents["/opt/quorb/_QuorbExcelPro.qbv"] = "From: plot";
+  FileMode = 1;
+  Line();
+  EXPECT_EQ(files.contents[copy], "From: demo") << "the help has brought it";
+}
+
 TEST_F(SlideShowTest, AFailureToCopyPassesUnnoticed) {
   const std::string line = "\"/opt/quorb/QuorbExcelPro\" /opt/quorb/PowerPoint20260703_091502.qbv";
   EXPECT_EQ(Line(), line) << "no plot file";

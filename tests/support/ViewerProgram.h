@@ -48,7 +48,6 @@ class ViewerProgram : public testing::Test {
     std::filesystem::permissions(run_.File("runtime"), std::filesystem::perms::owner_all);
     run_.Write("path/xdg-open", "#!/bin/sh\necho \"$1\" >> '" + run_.File("opened") + "'\n");
     std::filesystem::permissions(run_.File("path/xdg-open"), std::filesystem::perms::owner_all);
-    std::filesystem::create_symlink(QUORB_DEMONSTRATION, run_.File("images/QuorbExcelProDemo.qbv"));
     run_.Write(kSettings, "[Use]\nSetDirBMP=" + run_.File("images/") + "\n");
   }
 

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "AutomationService.h"
 #include "CalcLink.h"
 #include "CommandLine.h"
 #include "PutBackSpreadsheet.h"
@@ -75,5 +76,6 @@ int main(int argc, char** argv) {
   ViewerWindow window;
   window.Load(commandLine);
   window.show();
+  const AutomationService automation;
   return QApplication::exec();
 }

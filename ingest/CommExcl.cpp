@@ -26,6 +26,18 @@ constexpr double kBarMoves = 60;
 
 LoaderWindow* loaderWindow = nullptr;
 LoadOutcome lastLoad;
+int loadsUnderWay = 0;
+/// The number that LoadsStarted took when a load was given up last.
+int giveUp = 0;
+
+/// One load, from its first statement to its last, whichever that is.
+class LoadUse {
+ public:
+  LoadUse() { ++loadsUnderWay; }
+  ~LoadUse() { --loadsUnderWay; }
+  LoadUse(const LoadUse&) = delete;
+  LoadUse& operator=(const LoadUse&) = delete;
+};
 
 // A plot in one column leaves the panel alone and takes the bodies off; any other plot reads the panel.
 void SetBodiesForColumnMode(LoaderWindow& window) {
@@ -92,6 +104,7 @@ void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& 
   load.wholeXYZ = PenUpMode == 1 && IsOnlyXYZ(load.specification, ranges.XYZ);
   load.pass.readValZ = !load.specification.rangeValZ.empty();
   lastLoad.headerRead = true;
+  lastLoad.penUp = PenUpMode == 1;
   lastLoad.specification = load.specification;
   load.pass.tick = std::max(ranges.XYZ.num2 - ranges.XYZ.num1, 0) / kBarMoves + 1;
   load.pass.bar = kBarAtRows;
@@ -103,6 +116,7 @@ void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& 
 }
 
 void ReadChosenFile(LoadState& load, LoaderWindow& window) {
+  PointsAreScaled = 0;
   const PlotFileNames names = BuildPlotFileNames();
   window.AppendLog("NameTempo$ " + names.NameTempo);
   std::error_code unknown;
@@ -125,6 +139,17 @@ void ReadChosenFile(LoadState& load, LoaderWindow& window) {
                    std::to_string(load.pass.row) + ". Load it again.");
 }
 
+// The arrays hold a whole plot: what waits for that goes on.
+void EndLoad(LoaderWindow& window) {
+  LoadBusy = 0;
+  window.ShowProgress(false);
+  window.SetSpeedBar(kSpeedAfterLoad);
+  window.CameraSet("isonew", 2, 0);
+  window.CameraSet("isonew", 2, 0);
+  SetBodiesForColumnMode(window);
+  USERFLAG.SynchroExcelComplete = 1.0;
+}
+
 }  // namespace
 
 const LoadOutcome& LastLoad() {
@@ -143,6 +168,7 @@ void SetLoaderWindow(LoaderWindow* window) {
 
 void LoadPlot() {
   if (loaderWindow == nullptr || SpreadsheetInUse()) return;
+  const LoadUse use;
   LoaderWindow& window = *loaderWindow;
   const int thisLoad = ++LoadsStarted;
   MainKeyword = Trim(window.MainKeywordText());
@@ -169,13 +195,24 @@ void LoadPlot() {
   ResizeArmed = 0;
   window.Form_Resize();
   ResizeArmed = 1;
-  LoadBusy = 0;
-  window.ShowProgress(false);
-  window.SetSpeedBar(kSpeedAfterLoad);
-  window.CameraSet("isonew", 2, 0);
-  window.CameraSet("isonew", 2, 0);
-  SetBodiesForColumnMode(window);
-  USERFLAG.SynchroExcelComplete = 1.0;
+  EndLoad(window);
+}
+
+bool LoadIsUnderWay() {
+  return loadsUnderWay > SessionsThatWait();
+}
+
+void GiveUpWaitingLoad() {
+  if (loadsUnderWay == 0 || LoadIsUnderWay() || LoadBusy == 0) return;
+  ++LoadsStarted;  // the load sees by it that it is worth nothing
+  giveUp = LoadsStarted;
+  SpecTyped = 0;
+  USERFLAG.UpdateAsked = 0.0;
+  EndLoad(*loaderWindow);
+}
+
+bool LoadWasGivenUp(int load) {
+  return giveUp == load + 1 && LoadsStarted == giveUp;
 }
 
 }  // namespace quorb

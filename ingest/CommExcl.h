@@ -15,11 +15,23 @@ namespace quorb {
 /// and in message boxes: a failed statement is skipped and the load goes on.
 void LoadPlot();
 
+/// True from the first statement of a load to its last, however it ends, but for the time in which it waits
+/// for the user's specification or for a workbook of the user's.
+bool LoadIsUnderWay();
+
+/// Ends the load that waits for the user, if one does: another plot than its own was put into the arrays. To
+/// be called behind that. No specification is waited for from then on.
+void GiveUpWaitingLoad();
+
+/// Whether the load with this number, that of LoadsStarted within it, was given up so, and none began since.
+bool LoadWasGivenUp(int load);
+
 /// What the last load made of its file.
 struct LoadOutcome {
   int ErrorNumber = 0;              ///< failure of the last opening, 0 for none
   bool headerRead = false;          ///< a header with something behind it was there
   int rows = 0;                     ///< rows that the file gave
+  bool penUp = false;               ///< the title makes separate objects of them
   SpecificationText specification;  ///< scale, title and ranges as the formula gives them
 };
 const LoadOutcome& LastLoad();

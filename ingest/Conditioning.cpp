@@ -69,18 +69,6 @@ void SwitchSatellite(LoaderWindow& window) {
   }
 }
 
-// Earth and Moon go off with a plot without scale, and come back only if the program took them off.
-void ChooseScaleMode(double givenScale, double scale, LoaderWindow& window) {
-  if (givenScale == 1.0 && scale == 1.0) {
-    ISOmode = 0;
-    if (window.Value(LoaderControl::Check1_0) == 0) window.SetTag(LoaderControl::Check1_0, "1");
-    window.SetValue(LoaderControl::Check1_0, 1);
-    return;
-  }
-  ISOmode = 1;
-  if (window.Tag(LoaderControl::Check1_0) == "1") window.SetValue(LoaderControl::Check1_0, 0);
-}
-
 void CountEvents(const LoadPass& pass) {
   if (pass.evRow > 0) {
     FlagOptionToPlot = 1;
@@ -143,6 +131,17 @@ void UseZAsTime() {
 }
 
 }  // namespace
+
+void ChooseScaleMode(double givenScale, double scale, LoaderWindow& window) {
+  if (givenScale == 1.0 && scale == 1.0) {
+    ISOmode = 0;
+    if (window.Value(LoaderControl::Check1_0) == 0) window.SetTag(LoaderControl::Check1_0, "1");
+    window.SetValue(LoaderControl::Check1_0, 1);
+    return;
+  }
+  ISOmode = 1;
+  if (window.Tag(LoaderControl::Check1_0) == "1") window.SetValue(LoaderControl::Check1_0, 0);
+}
 
 void ConditionPlot(LoadState& load, LoaderWindow& window) {
   LoadPass& pass = load.pass;

@@ -23,4 +23,9 @@ struct LoadState {
 /// changes and changes of frame, in this order.
 void ConditionPlot(LoadState& load, LoaderWindow& window);
 
+/// Says by the plot's scale whether one scale holds on all axes, which it does unless both numbers are 1.
+/// Earth and Moon go off with a plot without scale, and come back only if the program took them off.
+/// @param givenScale the scale that was given; @param scale the one that the rows were read with.
+void ChooseScaleMode(double givenScale, double scale, LoaderWindow& window);
+
 }  // namespace quorb

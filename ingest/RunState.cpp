@@ -6,6 +6,7 @@
 namespace quorb {
 
 int DEJARESET = 0;
+int PointsAreScaled = 0;
 int DEJADRAW = 0;
 int LoadBusy = 0;
 int ResizeArmed = 1;
@@ -53,7 +54,7 @@ int LocalFollow = 0;
 namespace {
 
 void StartLoadState() {
-  DEJARESET = DEJADRAW = LoadBusy = 0;
+  DEJARESET = DEJADRAW = LoadBusy = PointsAreScaled = 0;
   ResizeArmed = 1;
   FileMode = CommandFileMode = 0;
   CommandFileName.clear();

@@ -10,6 +10,8 @@ namespace quorb {
 
 /// 1 once Reset() has digested the data on show; 0 asks for that again.
 extern int DEJARESET;
+/// 1 while the points in the arrays are scaled into the view, whatever is asked for behind that.
+extern int PointsAreScaled;
 /// 0 makes the next frame run Reset().
 extern int DEJADRAW;
 /// 1 while the loader runs.

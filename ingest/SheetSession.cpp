@@ -15,6 +15,7 @@ constexpr double kWaitStep = 0.1;
 constexpr const char* kDemoTag = "demo";
 
 bool isInUse = false;
+int sessionsThatWait = 0;
 SheetSession* currentSession = nullptr;
 
 bool HasOwnMeaning(int number) {
@@ -70,9 +71,11 @@ SheetUse::~SheetUse() {
 UserWait::UserWait(SheetSession& session)
     : session_(session), wasInUse_(SpreadsheetInUse()), thisLoad_(LoadsStarted) {
   SetSpreadsheetInUse(false);
+  ++sessionsThatWait;
 }
 
 UserWait::~UserWait() {
+  --sessionsThatWait;
   SetSpreadsheetInUse(wasInUse_);
 }
 
@@ -83,6 +86,10 @@ bool UserWait::Step() {
 
 bool UserWait::IsOutdated() const {
   return LoadsStarted != thisLoad_ || session_.ended;
+}
+
+int SessionsThatWait() {
+  return sessionsThatWait;
 }
 
 // ---- the session ------------------------------------------------------------------------------------------

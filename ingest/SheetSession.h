@@ -124,4 +124,7 @@ class UserWait {
   int thisLoad_;
 };
 
+/// How many sessions wait for the user, each but the first one within the wait of another.
+int SessionsThatWait();
+
 }  // namespace quorb

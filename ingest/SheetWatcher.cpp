@@ -219,7 +219,8 @@ void Reload(const std::string& cellNow) {
   LoadPlot();
   FormulaArmed = 0;
   // Another load that began while this one waited knows better what the sheet holds.
-  if (LoadsStarted == thisLoad && cellNow != LastFormula) LastFormula = cellNow;
+  const bool isLatest = LoadsStarted == thisLoad || LoadWasGivenUp(thisLoad);
+  if (isLatest && cellNow != LastFormula) LastFormula = cellNow;
 }
 
 void LoadWithoutApplication() {

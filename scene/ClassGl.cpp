@@ -1,5 +1,6 @@
 #include "ClassGl.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "Normalise.h"
@@ -130,10 +131,27 @@ void ClassGl::Reset() {
   if (DEJARESET != 1 && USERFLAG.SynchroExcelComplete == 0.0) return;
   NormalisePlot(*this);
   PlaceLight(Range * 0.01 * 10, Range * 0.01 * 30, Range * 0.01 * 150);
-  Host.Camera().SetField(180);
-  Host.Camera().SetPosition(0, 0, static_cast<float>(6 * Range));
-  StartTimeOfPlot();
+  if (LoadOfKeptView == LoadsStarted) {
+    KeepTimeOfPlot();
+  } else {
+    Host.Camera().SetField(180);
+    Host.Camera().SetPosition(0, 0, static_cast<float>(6 * Range));
+    StartTimeOfPlot();
+  }
   ResetDone = true;
+}
+
+void ClassGl::ShowChangedRows() {
+  if (DEJADRAW != 0) LoadOfKeptView = LoadsStarted;
+  DEJADRAW = 0;
+  RowsAreChanged = true;
+  KeepTimeOfPlot();
+  LastKey = FrameKey();  // the rows themselves stand in no key
+}
+
+void ClassGl::KeepTimeOfPlot() {
+  CURRINDEXI = std::min(CURRINDEXI, LastPoint);
+  CycleIndex = std::min(CycleIndex, LastPoint);
 }
 
 void ClassGl::StartTimeOfPlot() {

@@ -187,6 +187,12 @@ class ClassGl : public PlotExtent {
   /// False when another frame would show what the last one shows: the two last ones were drawn from the state
   /// that holds now.
   bool FrameIsDue() const;
+  /// True within a frame, also where it shows a message and lets events through.
+  bool IsDrawing() const { return IsInFrame; }
+  /// Has the next frame show rows of the plot that were changed without a load. The camera stays as it is,
+  /// and the time goes on from its row. Points that were stored unscaled need DEJARESET 0 besides. Behind a
+  /// load whose first frame is still to come that frame shows them, with the view of a load.
+  void ShowChangedRows();
 
   // ---- state that other modules read --------------------------------------------------------------------
 
@@ -241,10 +247,12 @@ class ClassGl : public PlotExtent {
  private:
   void Reset();
   void StartTimeOfPlot();
+  void KeepTimeOfPlot();
   void PlaceLight(double x, double y, double z);
   void MakeDefaultMaterial();
   void MakeFonts();
 
+  void DrawFrame();
   void DrawVernalText();
   void DrawLogoText();
   void SetAxisWidth();
@@ -268,6 +276,11 @@ class ClassGl : public PlotExtent {
   std::vector<std::uint8_t> CapturedRows;
   /// What the last two frames were drawn from, as it stood at their ends.
   FrameKey LastKey, KeyBefore;
+  bool IsInFrame = false;
+  /// The rows are a client's: one point with one event is a plot too.
+  bool RowsAreChanged = false;
+  /// The number of the load whose view stays though its rows change; -1 for none.
+  int LoadOfKeptView = -1;
   /// Ticks from 1 to 100, and from 1 to 5; 0 before the first one.
   int TickCycle = 0;
   int TickPhase = 0;

@@ -47,12 +47,22 @@ bool SatelliteIsShown() {
 }  // namespace
 
 void ClassGl::DigestPlot() {
-  if (LastPoint + NbEvents == 0 || DEJADRAW != 0) return;
+  const bool isPlot = LastPoint + NbEvents != 0 || RowsAreChanged;
+  if (!isPlot || DEJADRAW != 0) return;
   Reset();
-  if (USERFLAG.SynchroExcelComplete == 1.0) DEJADRAW = 1;
+  if (USERFLAG.SynchroExcelComplete != 1.0) return;
+  DEJADRAW = 1;
+  RowsAreChanged = false;
 }
 
 void ClassGl::Draw() {
+  const bool wasInFrame = IsInFrame;
+  IsInFrame = true;
+  DrawFrame();
+  IsInFrame = wasInFrame;
+}
+
+void ClassGl::DrawFrame() {
   if (USERFLAG.LogoScale != 0) ForceBrandedLook();
   DigestPlot();
   Host.Animation().Update();

@@ -9,8 +9,8 @@ namespace quorb {
 
 class ClassGl;
 
-/// What a frame is drawn from, but the rows of the plot: those change by a load alone, and behind it the plot
-/// waits to be digested, which is part of the key. Frames of equal keys show the same.
+/// What a frame is drawn from, but the rows of the plot: behind a load the plot waits to be digested, which
+/// is part of the key, and ClassGl::ShowChangedRows forgets the key. Frames of equal keys show the same.
 struct FrameKey {
   UserFlagRecord options;
   std::vector<double> numbers;

@@ -27,17 +27,6 @@ double DistanceFromOrigin(const double* point) {
   return std::sqrt(point[1] * point[1] + point[2] * point[2] + point[3] * point[3]);
 }
 
-void TellEventKind(PlotExtent& extent) {
-  if (NbEvents == 0) return;
-  bool hasStart = false;
-  bool hasEnd = false;
-  for (std::int64_t row = 0; row < std::min<std::int64_t>(NbEvents, kRowBound); ++row) {
-    hasEnd = hasEnd || dataEvents[row][1] == 0;
-    hasStart = hasStart || dataEvents[row][1] == 1;
-  }
-  extent.EventsSingleValued = (hasStart && hasEnd) || extent.EventsForced == 1 ? 0 : 1;
-}
-
 void MeasureDistances(PlotExtent& extent) {
   double farthest = 0;
   double nearest = INFINITY;
@@ -107,6 +96,17 @@ void MeasureScaledRange(PlotExtent& extent) {
 
 }  // namespace
 
+void TellEventKind(PlotExtent& extent) {
+  if (NbEvents == 0) return;
+  bool hasStart = false;
+  bool hasEnd = false;
+  for (std::int64_t row = 0; row < std::min<std::int64_t>(NbEvents, kRowBound); ++row) {
+    hasEnd = hasEnd || dataEvents[row][1] == 0;
+    hasStart = hasStart || dataEvents[row][1] == 1;
+  }
+  extent.EventsSingleValued = (hasStart && hasEnd) || extent.EventsForced == 1 ? 0 : 1;
+}
+
 void NormalisePlot(PlotExtent& extent) {
   if (DEJARESET == 1) return;
   TellEventKind(extent);
@@ -115,7 +115,7 @@ void NormalisePlot(PlotExtent& extent) {
   MeasureDistances(extent);
   for (int axis = 0; axis < 3; ++axis)
     MeasureAxis(extent.AxisRange[axis], axis + 1);
-  DEJARESET = 1;
+  DEJARESET = PointsAreScaled = 1;
   extent.InvRange = 1 / extent.Range;
   for (AxisRangeRecord& axis : extent.AxisRange)
     PlanAxis(axis);

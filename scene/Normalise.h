@@ -15,4 +15,7 @@ namespace quorb {
 /// it is left out once DEJARESET is 1; it sets DEJARESET.
 void NormalisePlot(PlotExtent& extent);
 
+/// Tells how the events of the plot are to be read, as NormalisePlot does; with none it leaves all as it is.
+void TellEventKind(PlotExtent& extent);
+
 }  // namespace quorb

@@ -75,6 +75,20 @@ TEST_F(FrameKeyTest, EachChangeOfWhatIsShownMakesTwoFramesDue) {
   }
 }
 
+TEST_F(FrameKeyTest, RowsThatChangedMakeTwoFramesDueThoughAllElseStays) {
+  Settle();
+  const int row = scene.CURRINDEXI;
+  SetPoint(1, 1, 2, 0, 0);
+  EXPECT_FALSE(scene.FrameIsDue());
+  scene.ShowChangedRows();
+  EXPECT_TRUE(scene.FrameIsDue());
+  scene.Draw();
+  EXPECT_TRUE(scene.FrameIsDue());
+  scene.Draw();
+  EXPECT_FALSE(scene.FrameIsDue());
+  EXPECT_EQ(scene.CURRINDEXI, row);
+}
+
 TEST_F(FrameKeyTest, TheRunningTimeMakesFramesDueUntilItStandsAtTheLastRow) {
   Settle();
   for (const int row : {4, 8, 10}) {

@@ -57,6 +57,10 @@ class OfficeUser {
   virtual SheetFault AddSheet(int document, const std::string& name) = 0;
   virtual SheetFault ShowSheet(int document, int sheet) = 0;
   virtual SheetFault Select(int document, int sheet, const std::string& range) = 0;
+  /// Selects ranges that stand apart from each other.
+  virtual SheetFault SelectApart(int document, int sheet, const std::vector<std::string>& ranges) = 0;
+  /// Runs a macro of the office's user by its script URL, with the document in front.
+  virtual SheetFault RunMacro(int document, const std::string& url) = 0;
   virtual SheetFault Merge(int document, int sheet, const std::string& range) = 0;
   virtual SheetFault HideRows(int document, int sheet, const std::string& range) = 0;
   virtual SheetFault HideColumns(int document, int sheet, const std::string& range) = 0;

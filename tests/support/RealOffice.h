@@ -38,6 +38,8 @@ class RealOffice {
   /// The directory of those options: further sockets may be put there.
   const std::string& SocketDirectory() const { return socketDirectory_; }
   const RunningOffice& Running() const { return running_; }
+  /// Where its user keeps macros in Python.
+  std::string PythonMacros() const { return profile_ + "/user/Scripts/python"; }
 
   void Freeze();
   void Thaw();

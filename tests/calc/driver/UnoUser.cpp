@@ -17,11 +17,14 @@
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/frame/theGlobalEventBroadcaster.hpp>
 #include <com/sun/star/lang/DisposedException.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/script/provider/XScriptProviderSupplier.hpp>
 #include <com/sun/star/sheet/FilterOperator.hpp>
 #include <com/sun/star/sheet/TableFilterField.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XCellRangeData.hpp>
 #include <com/sun/star/sheet/XNamedRanges.hpp>
+#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/sheet/XSheetFilterable.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
@@ -229,6 +232,30 @@ class UnoUser : public OfficeUser {
     return Guarded([&] {
       Reference<css::view::XSelectionSupplier>(Model(document)->getCurrentController(), UNO_QUERY_THROW)
           ->select(Any(Range(document, sheet, range)));
+    });
+  }
+  SheetFault SelectApart(int document, int sheet, const std::vector<std::string>& ranges) override {
+    return Guarded([&] {
+      const Reference<css::lang::XMultiServiceFactory> book(Model(document), UNO_QUERY_THROW);
+      const Reference<css::sheet::XSheetCellRangeContainer> all(
+          book->createInstance("com.sun.star.sheet.SheetCellRanges"), UNO_QUERY_THROW);
+      for (const std::string& range : ranges) {
+        const Reference<css::sheet::XCellRangeAddressable> cells(Range(document, sheet, range),
+                                                                 UNO_QUERY_THROW);
+        all->addRangeAddress(cells->getRangeAddress(), false);
+      }
+      Reference<css::view::XSelectionSupplier>(Model(document)->getCurrentController(), UNO_QUERY_THROW)
+          ->select(Any(all));
+    });
+  }
+  SheetFault RunMacro(int document, const std::string& url) override {
+    return Guarded([&] {
+      Sequence<Any> out;
+      Sequence<sal_Int16> places;
+      Reference<css::script::provider::XScriptProviderSupplier>(Model(document), UNO_QUERY_THROW)
+          ->getScriptProvider()
+          ->getScript(Wide(url))
+          ->invoke(Sequence<Any>(), places, out);
     });
   }
   SheetFault Merge(int document, int sheet, const std::string& range) override {

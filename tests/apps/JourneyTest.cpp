@@ -213,8 +213,7 @@ class Journey : public ViewerProgram {
   }
 };
 
-// ---- views
-// -------------------------------------------------------------------------------------------------
+// ---- views ------------------------------------------------------------------------------------------------
 
 TEST_F(Journey, TheKeysXYAndZPutTheirAxisUpward) {
   const auto viewer = StartOn(SmallPlot("Keys"));
@@ -301,8 +300,7 @@ TEST_F(Journey, TheRedrawBarTakesTheLineBackAndLetsItGrowAgain) {
   EXPECT_TRUE(Until([&] { return LineSeen(Plot()).pixels > less + 10; }));
 }
 
-// ---- options
-// -----------------------------------------------------------------------------------------------
+// ---- options ----------------------------------------------------------------------------------------------
 
 TEST_F(Journey, AColourThatIsSavedIsThereBehindARestart) {
   constexpr int kRusty = 0xC83C14;
@@ -322,8 +320,7 @@ TEST_F(Journey, AColourThatIsSavedIsThereBehindARestart) {
   EXPECT_TRUE(Until([&] { return BackgroundIs(kRusty); }));
 }
 
-// ---- pictures
-// ----------------------------------------------------------------------------------------------
+// ---- pictures ---------------------------------------------------------------------------------------------
 
 TEST_F(Journey, TheCameraTakesTheImageThatStandsOnTheScreen) {
   const auto viewer = StartOn(SmallPlot("Image"));
@@ -385,8 +382,7 @@ TEST_F(Journey, AMovieThatIsEndedMakesNoMoreFiles) {
   EXPECT_EQ(Images().size(), made);
 }
 
-// ---- files, specification, help
-// ----------------------------------------------------------------------------
+// ---- files, specification, help ---------------------------------------------------------------------------
 
 TEST_F(Journey, AnotherFileIsOpenedWithTheChooser) {
   SmallPlot("First of two");
@@ -445,8 +441,7 @@ TEST_F(Journey, TheHelpLeadsToTheDemonstrationAndBackToTheOwnPlotAndColours) {
   EXPECT_TRUE(viewer->Runs());
 }
 
-// ---- two programs
-// ------------------------------------------------------------------------------------------
+// ---- two programs -----------------------------------------------------------------------------------------
 
 TEST_F(Journey, TheLineForPresentationsShowsTheSamePlotFromAnyDirectory) {
   const std::string directory = "my talks, $5 each";

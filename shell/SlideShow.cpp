@@ -24,12 +24,18 @@ std::string WithMark(const std::string& directory) {
   return directory + CurrentDesktop().DirectoryMark();
 }
 
+/// The file that the plot came from; a null pointer when there is none.
+std::unique_ptr<MappedFile> PlotFile() {
+  int ErrorNumber = 0;
+  for (const std::string& name : PlotFilesInTurn()) {
+    if (auto file = CurrentFileAccess().Map(name, ErrorNumber)) return file;
+  }
+  return nullptr;
+}
+
 // A plot that cannot be copied leaves the line as it is.
 void CopyPlotFile(const std::string& to) {
-  int ErrorNumber = 0;
-  std::unique_ptr<MappedFile> source;
-  for (const std::string& file : PlotFilesInTurn())
-    if (source == nullptr) source = CurrentFileAccess().Map(file, ErrorNumber);
+  const auto source = PlotFile();
   if (source == nullptr) return;
   const auto copy = CurrentFileAccess().Create(to);
   if (copy != nullptr && copy->Write(source->Bytes())) copy->Commit();

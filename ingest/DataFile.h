@@ -10,8 +10,8 @@ namespace quorb {
 /// One line's fields, as the row splitter found them.
 struct RowFields {
   static constexpr int kHeld = 20;
-  double values[kHeld + 1];  ///< numbers of the fields 1 to 20; those beyond `count` are not set
-  int count = 0;             ///< number of fields in the line, also above 20
+  double values[kHeld + 1] = {};  ///< numbers of the fields 1 to 20; those beyond `count` are of other rows
+  int count = 0;                  ///< number of fields in the line, also above 20
   bool emptyX = false;
   bool emptyEventTime = false;
   bool emptyQuaterTime = false;

@@ -51,6 +51,7 @@ QByteArray SocketName(const QString& address) {
 }
 
 bool Connect(const Socket& bus, const QByteArray& name) {
+  if (bus.Number() < 0) return false;
   sockaddr_un place = {};
   place.sun_family = AF_UNIX;
   const auto length = static_cast<std::size_t>(name.size());

@@ -26,7 +26,10 @@ std::optional<std::string> PlainLiteral(std::string_view formula) {
     return {};
   std::string text;
   for (std::size_t i = open + 1; i < close; ++i) {
-    if (formula[i] == '"' && (++i == close || formula[i] != '"')) return {};
+    if (formula[i] == '"') {
+      ++i;
+      if (i == close || formula[i] != '"') return {};
+    }
     text += formula[i];
   }
   return text;

@@ -10,6 +10,9 @@ namespace quorb {
 
 namespace {
 
+// Far beyond what a number can hold either way.
+constexpr long kMostExponent = 9999;
+
 std::size_t BehindDigits(const std::string& text, std::size_t at) {
   while (at < text.size() && std::isdigit(static_cast<unsigned char>(text[at])) != 0)
     ++at;
@@ -37,10 +40,11 @@ std::string WithReadableScale(std::string formula) {
   const std::size_t decimals = digitsEnd - point - 1;
   if (decimals == 0) return formula;
   const std::size_t end = BehindExponent(formula, digitsEnd);
-  const int given = end == digitsEnd ? 0 : std::atoi(formula.c_str() + digitsEnd + 1);
+  const long exponent = end == digitsEnd ? 0 : std::strtol(formula.c_str() + digitsEnd + 1, nullptr, 10);
+  const long given = std::clamp(exponent, -kMostExponent, kMostExponent);
   std::string digits = formula.substr(head, point - head) + formula.substr(point + 1, decimals);
   digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
-  digits += "E" + std::to_string(given - static_cast<int>(decimals));
+  digits += "E" + std::to_string(given - static_cast<long>(decimals));
   return formula.replace(head, end - head, digits);
 }
 

@@ -111,8 +111,11 @@ void AppendFixed(double number, int decimals, char mark, std::string& text) {
   if (!std::isfinite(number)) number = 0.0;
   // The first digit's power of ten; it and the decimals are 14 at most.
   int power = 0;
-  for (double bound = 10.0; std::fabs(number) >= bound && power <= kShownDigits; bound *= 10.0)
+  double bound = 10.0;
+  while (std::fabs(number) >= bound && power <= kShownDigits) {
     ++power;
+    bound *= 10.0;
+  }
   const int shown = std::clamp(kShownDigits - 1 - power, 0, decimals);
 
   std::array<char, 64> digits{};

@@ -99,7 +99,7 @@ class QtHost : public GlHost {
     DoneCurrent();
   }
 
-  void ReleaseContext() {
+  void ReleaseAll() {
     reader_.Release();
     GlHost::ReleaseContext();
   }
@@ -137,7 +137,7 @@ PlotWidget::~PlotWidget() {
 void PlotWidget::ReleaseContext() {
   if (context() == nullptr) return;
   makeCurrent();
-  host_->ReleaseContext();
+  host_->ReleaseAll();
   doneCurrent();
 }
 

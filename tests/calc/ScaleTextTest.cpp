@@ -22,6 +22,12 @@ TEST(ScaleText, AHalfIsAHalfWhereThePointIsAThousandsMark) {
   EXPECT_EQ(ScaleOf("=.25+MAX(A2:C4)"), 0.25);
 }
 
+TEST(ScaleText, AnExponentBeyondAnyNumberStaysBeyondAnyNumber) {
+  const FixedRegion german(",", ".");
+  EXPECT_EQ(WithReadableScale("=0.5E99999999999999999999+MAX(A2:C4)"), "=5E9998+MAX(A2:C4)");
+  EXPECT_EQ(WithReadableScale("=0.5E-99999999999999999999+MAX(A2:C4)"), "=5E-10000+MAX(A2:C4)");
+}
+
 TEST(ScaleText, OtherHeadsStayAsTheyAre) {
   const FixedRegion german(",", ".");
   for (const char* formula : {"=MAX(A2:C4)", "=5+MAX(A2:C4)", "=5.+MAX(A2:C4)", "=LEN(\"1.5\")+MAX(A2:C4)",

@@ -15,6 +15,7 @@
 #include "PictureCompare.h"
 #include "ProgramRun.h"
 #include "VirtualDisplay.h"
+#include "WindowSearch.h"
 
 namespace quorb {
 
@@ -56,9 +57,7 @@ class ViewerOnBus : public testing::Test {
   bool WaitForWindow(const std::string& title) const {
     return WaitFor([&] { return HasWindow(title); });
   }
-  bool HasWindow(const std::string& title) const {
-    return run.Run("/usr/bin/xdotool", "search --onlyvisible --name '" + title + "'").status == 0;
-  }
+  bool HasWindow(const std::string& title) const { return SearchWindows(run, title).status == 0; }
   /// Waits until the plot of a file is loaded and the object of a name answers.
   bool WaitUntilFree(const std::string& name = kBusName) const {
     return WaitFor([&] { return Read("Busy", name) == "(<false>,)"; });
@@ -112,8 +111,8 @@ class ViewerOnBus : public testing::Test {
   }
   /// Presses Return in the window with this text in its title.
   void PressReturnIn(const std::string& title) const {
-    const std::string search = "search --onlyvisible --name '" + title + "' windowfocus --sync";
-    EXPECT_EQ(run.Run("/usr/bin/xdotool", search).status, 0);
+    EXPECT_TRUE(WaitFor([&] { return SearchWindows(run, title, "windowfocus --sync").status == 0; }))
+        << title;
     EXPECT_EQ(run.Run("/usr/bin/xdotool", "key Return").status, 0);
   }
 

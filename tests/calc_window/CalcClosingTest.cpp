@@ -9,6 +9,7 @@
 #include "ProgramRun.h"
 #include "RealOffice.h"
 #include "VirtualDisplay.h"
+#include "WindowSearch.h"
 
 // The X headers define words of their own: they come last.
 #include "CloseWindow.h"
@@ -52,16 +53,16 @@ class CalcClosing : public testing::Test {
             "DISPLAY=" + display_.Name(), "QT_QPA_PLATFORM=xcb", "XDG_CONFIG_HOME=" + run_.File("config"),
             "XDG_DATA_HOME=" + run_.File("data"), "QUORB_OFFICE_SOCKETS=" + office_->SocketDirectory()});
   }
-  std::string Drive(const std::string& words) const {
-    return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " xdotool " + words).out;
-  }
   void KeepScreen(const std::string& name) const {
     std::filesystem::create_directories(QUORB_SCREEN_OUTPUT);
     run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " import -window root '" QUORB_SCREEN_OUTPUT "/" +
                                  name + ".png'");
   }
   unsigned long Window() const {
-    const std::string found = Drive("search --sync --onlyvisible --name Quorb");
+    const auto limit = steady_clock::now() + std::chrono::seconds(30);
+    std::string found;
+    while (found.empty() && steady_clock::now() < limit)
+      found = SearchWindows(run_, "Quorb", "", display_.Name()).out;
     return found.empty() ? 0 : std::stoul(found);
   }
   /// Closes it, and gives the milliseconds until the process has ended.

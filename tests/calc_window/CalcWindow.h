@@ -18,7 +18,20 @@ namespace quorb {
 /// One look of the watcher at the sheet.
 struct PollRecord {
   std::chrono::steady_clock::time_point begin, end;
-  int loads = 0;  ///< That it began.
+  int loads = 0;          ///< That it began.
+  bool answered = false;  ///< False for one that Calc kept waiting, and that was passed over.
+};
+
+/// Counts the cells that Calc tells: the last thing that a look asks for.
+class CountingLink : public CalcLink {
+ public:
+  using CalcLink::CalcLink;
+  SheetFault ActiveCellFormula(Workbook workbook, std::string& formula) override {
+    SheetFault fault = CalcLink::ActiveCellFormula(workbook, formula);
+    if (fault.Good()) ++cellsTold;
+    return fault;
+  }
+  int cellsTold = 0;
 };
 
 /// Steps that are taken one behind the other, each as soon as it may, from within the events that a load lets
@@ -82,7 +95,7 @@ class CalcWindow : public OpenWindow {
     CalcLinkOptions options = office_->Options();
     options.pollPatience = CalcLinkOptions().pollPatience;
     options.attachPatience = CalcLinkOptions().attachPatience;
-    link_ = std::make_unique<CalcLink>(options);
+    link_ = std::make_unique<CountingLink>(options);
     return link_.get();
   }
 
@@ -137,9 +150,10 @@ class CalcWindow : public OpenWindow {
     auto watch = TheScene->WatchSheet;
     TheScene->WatchSheet = [this, watch] {
       const int loads = LoadsStarted;
+      const int cells = link_->cellsTold;
       const auto begin = Clock::now();
       watch();
-      polls.push_back({begin, Clock::now(), LoadsStarted - loads});
+      polls.push_back({begin, Clock::now(), LoadsStarted - loads, link_->cellsTold > cells});
     };
     window->show();
     plot = window->findChild<QOpenGLWidget*>();
@@ -196,6 +210,16 @@ class CalcWindow : public OpenWindow {
   void WaitForPolls(std::size_t count) {
     const std::size_t wanted = polls.size() + count;
     ASSERT_TRUE(QTest::qWaitFor([&] { return polls.size() >= wanted; }, 15000)) << polls.size();
+  }
+  /// Waits for that many further looks that Calc answers.
+  void WaitForAnswers(int count) {
+    const std::size_t first = polls.size();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return AnsweredSince(first) >= count; }, 15000)) << polls.size();
+  }
+  int AnsweredSince(std::size_t first) const {
+    const auto begin = polls.begin() + static_cast<std::ptrdiff_t>(first);
+    return static_cast<int>(
+        std::count_if(begin, polls.end(), [](const PollRecord& p) { return p.answered; }));
   }
 
   /// What is on the whole screen; a file of this name keeps it for a person to look at.
@@ -264,7 +288,7 @@ class CalcWindow : public OpenWindow {
     shownAt_.back() = now;
   }
 
-  std::unique_ptr<CalcLink> link_;
+  std::unique_ptr<CountingLink> link_;
   std::vector<int> opened_;
   QTimer heartbeat_;
   bool isBeating_ = false;

@@ -14,6 +14,7 @@
 #include "ProgramRun.h"
 #include "ScreenReading.h"
 #include "VirtualDisplay.h"
+#include "WindowSearch.h"
 
 // The X headers define words of their own: they come last.
 #include "ClipboardText.h"
@@ -200,16 +201,9 @@ class ViewerProgram : public testing::Test {
   ProgramOutcome Drive(const std::string& words) const {
     return run_.Run("/usr/bin/env", "DISPLAY=" + display_.Name() + " timeout 15 xdotool " + words);
   }
-  /// What is known of the windows with this title. A search that comes upon a window, such as a menu, which
-  /// goes away meanwhile ends with an error of the display, and is done again.
+  /// What is known of the windows with this title; see SearchWindows.
   ProgramOutcome Search(const std::string& title, const std::string& then = "") const {
-    ProgramOutcome found;
-    for (int attempt = 0; attempt < 5; ++attempt) {
-      found = Drive("search --onlyvisible --name '" + title + "' " + then);
-      if (found.err.find("BadWindow") == found.err.npos && found.err.find("BadMatch") == found.err.npos)
-        break;
-    }
-    return found;
+    return SearchWindows(run_, title, then, display_.Name());
   }
   bool IsOpen(const std::string& title) const { return Search(title).status == 0; }
   bool WaitForWindow(const std::string& title) const {

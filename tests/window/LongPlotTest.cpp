@@ -84,13 +84,13 @@ TEST_F(LongPlot, AClickArrivesWithinTwoFramesWhileTheTimeRuns) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return delays.milliseconds.size() == kClicks; }, 60000));
   }
   plot->removeEventFilter(&delays);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return frameTimes.size() > first; }, 60000));
 
   EXPECT_EQ(TheScene->MouseDownX, 200 + 50 * static_cast<int>(kClicks - 1));
   EXPECT_EQ(TheScene->MouseDownY, 300);
   EXPECT_GT(TheScene->CURRINDEXI, firstRow);
   EXPECT_LT(TheScene->CURRINDEXI, LastPoint);
-  const double longestFrame = LongestFrame(first);
-  ASSERT_GT(longestFrame, 0);
+  const double longestFrame = LongestFrame(first - 1);
   const double longestDelay = *std::max_element(delays.milliseconds.begin(), delays.milliseconds.end());
   RecordProperty("LongestFrameMilliseconds", std::to_string(longestFrame));
   RecordProperty("LongestDelayMilliseconds", std::to_string(longestDelay));

@@ -6,6 +6,7 @@
 #include "CellRange.h"
 #include "Conditioning.h"
 #include "DataChannel.h"
+#include "Dialogs.h"
 #include "Faults.h"
 #include "FileChoice.h"
 #include "PlotData.h"
@@ -57,6 +58,12 @@ void ForgetColumnPlot() {
     std::fill_n(dataXYZT[i], 5, 0.0);
 }
 
+// A title that the sheet completed from a cell stands whole in the header: its formula names the first part.
+bool HeaderCompletesTitle(const DataFileHeader& header, const std::string& title) {
+  return header.formula.find('&') != std::string::npos && header.title.size() > title.size() &&
+         header.title.compare(0, title.size(), title) == 0;
+}
+
 // The header's own scale and title count only when its formula has none.
 void TakeSpecification(const DataFileHeader& header, LoadState& load) {
   load.specification = Extraction_info(header.formula, "");
@@ -64,7 +71,8 @@ void TakeSpecification(const DataFileHeader& header, LoadState& load) {
   if (!load.specification.hasScale && header.scale != 0) load.givenScale = header.scale;
   load.pass.scale = load.givenScale;
   MessageUserToPlot = load.specification.title;
-  if (!load.specification.hasTitle && !header.title.empty()) MessageUserToPlot = header.title;
+  const bool isWhole = load.specification.hasTitle && !HeaderCompletesTitle(header, MessageUserToPlot);
+  if (!isWhole && !header.title.empty()) MessageUserToPlot = header.title;
 }
 
 /// The ranges of the file's formula whose size the load looks at; the others are only empty or not.
@@ -78,6 +86,11 @@ FileRanges ConvertRanges(const SpecificationText& specification) {
   ConvertA1LC(specification.rangeEvents, ranges.events);
   ConvertA1LC(specification.rangeQuater, ranges.quater);
   return ranges;
+}
+
+void TellStrangeEnd(const RangeNumbers& XYZ, int SpecFound) {
+  if (XYZ.num1 != XYZ.num2 || SpecFound != 1) return;
+  CurrentDialogs().MessageBox("Strange <num1 = num2 And SpecFound = 1> , see Lamdor", "", kBoxStopIcon);
 }
 
 bool IsOnlyXYZ(const SpecificationText& specification, const RangeNumbers& XYZ) {
@@ -101,6 +114,7 @@ void ReadPlotFile(const std::string& headerLine, LoadState& load, LoaderWindow& 
   window.AppendLog(" Check SpecialCasesPermutUnitsmoon rangeXYZ$ " + load.specification.rangeXYZ);
   const FileRanges ranges = ConvertRanges(load.specification);
   USERFLAG.TimeInData = load.specification.rangeT.empty() ? 0.0 : 1.0;
+  TellStrangeEnd(ranges.XYZ, load.SpecFound);
   load.wholeXYZ = PenUpMode == 1 && IsOnlyXYZ(load.specification, ranges.XYZ);
   load.pass.readValZ = !load.specification.rangeValZ.empty();
   lastLoad.headerRead = true;
@@ -179,7 +193,11 @@ void LoadPlot() {
   window.ShowProgress(true);
   LoadState load;
   load.throughSheet = CommandFileMode != 1 && FileMode < 1;
-  if (load.throughSheet && ReadSpreadsheet(window) == SheetReading::leaveLoad) return;
+  if (load.throughSheet) {
+    const SheetReading reading = ReadSpreadsheet(window);
+    if (reading.leavesLoad) return;
+    load.SpecFound = reading.SpecFound;
+  }
   if (thisLoad != LoadsStarted) return;  // another load ran while this one waited for the user
   FILEcOMMANDnAME = CommandFileName;
   window.RegisterFileType();

@@ -16,6 +16,7 @@ struct LoadState {
   bool isDemo = false;        ///< the demonstration was announced
   bool wholeXYZ = false;      ///< PenUpMode, and the three columns of X, Y, Z are the only range
   bool throughSheet = false;  ///< the load went through the spreadsheet before the file
+  int SpecFound = 0;          ///< 1 when the end of the file's main range was looked up in the sheet
 };
 
 /// Brings the rows that were read to the plot that the scene draws: built-in plot when there are none, colour

@@ -137,9 +137,10 @@ bool Poll::Done(const SheetFault& fault) {
 
 // ---- one look ---------------------------------------------------------------------------------------------
 
-bool Attach(SheetLink& link) {
-  if (link.GetRunningObject().Good()) return true;
-  return LastAnswer == BoxAnswer::ok && link.GetRunningObject().Good();
+SheetFault Attach(SheetLink& link) {
+  SheetFault fault = link.GetRunningObject();
+  if (!fault.Good() && LastAnswer == BoxAnswer::ok) fault = link.GetRunningObject();
+  return fault;
 }
 
 bool GoesOn(const Poll& poll) {
@@ -202,7 +203,11 @@ Outcome LookForChange(std::string& cellNow) {
   if (ExcelLinked != 1 || LoadBusy == 1 || FileMode >= 1 || CommandFileMode == 1) return Outcome::end;
   Poll poll(CurrentSheetLink());
   Outcome outcome = Outcome::typedSpec;
-  if (Attach(poll.link)) {
+  const SheetFault attached = Attach(poll.link);
+  if (IsBusyFault(attached.number)) {
+    EndQuietly(poll);
+    outcome = Outcome::end;
+  } else if (attached.Good()) {
     outcome = LookAtSheet(poll);
   } else {
     NoWorkbookTold = WatchFaultTold = 0;

@@ -60,11 +60,11 @@ SheetReading PourSpecification(SheetSession& session) {
   NbQuater = 0;
   const SpecificationText specification = Extraction_info(session.cellFormula, session.titleTail);
   if (session.AddRetries == 0) RecordSpecification(session.cellFormula);
-  if (!SpecificationHolds(specification, session.cellFormula)) return SheetReading::readFile;
+  if (!SpecificationHolds(specification, session.cellFormula)) return {};
   if (!isSound) {
     session.window.AppendLog(
         "The spreadsheet was busy: its specification may not be whole, nothing is taken");
-    return SheetReading::readFile;
+    return {};
   }
   session.StartStage();
   SourceCells cells(session);
@@ -72,18 +72,18 @@ SheetReading PourSpecification(SheetSession& session) {
   const RangesFound found =
       NcolumnsUpdated(specification, session.cellFormula, cells, session.window, ranges);
   session.cellFormula = ranges.cellFormula;
-  if (found == RangesFound::tooNarrow) return SheetReading::leaveLoad;
+  if (found == RangesFound::tooNarrow) return {true, 0};
   if (ranges.rangeXYZ.numbers.num1 < 1) {
     session.window.AppendLog("The range " + ranges.rangeXYZ.text +
                              " names no rows that can be read, nothing is taken");
-    return SheetReading::readFile;
+    return {};
   }
   if (cells.Failed() || !session.IsSound()) {
     session.window.AppendLog("The end of the data could not be looked up in the sheet, nothing is taken");
-    return SheetReading::readFile;
+    return {};
   }
   ExportToFile(session, ranges, specification);
-  return SheetReading::readFile;
+  return {false, session.fileWritten ? ranges.SpecFound : 0};
 }
 
 // Until the next try; false when there is none because the user has had enough.
@@ -107,10 +107,10 @@ SheetReading ReadSpreadsheet(LoaderWindow& window) {
   ExcelLinked = 1;
   session.Done(link.Version(session.ExcelVersion));
   session.NoSheet = 0;
-  if (!FindSpecCell(session)) return SheetReading::readFile;
+  if (!FindSpecCell(session)) return {};
   session.AddRetries = 0;
   SheetReading reading = PourSpecification(session);
-  while (reading == SheetReading::readFile && ScratchIsSource(session) && WaitForNextTry(session)) {
+  while (!reading.leavesLoad && ScratchIsSource(session) && WaitForNextTry(session)) {
     reading = PourSpecification(session);
   }
   return reading;

@@ -4,10 +4,10 @@
 
 namespace quorb {
 
-/// How a load goes on behind the spreadsheet.
-enum class SheetReading {
-  readFile,   ///< With the data file, which was written or left as it was.
-  leaveLoad,  ///< Not at all: the ranges cannot hold a plot, and the user was told.
+/// What a load takes from the spreadsheet beside the data file, which was written or left as it was.
+struct SheetReading {
+  bool leavesLoad = false;  ///< The ranges cannot hold a plot, and the user was told: the load ends here.
+  int SpecFound = 0;        ///< 1 when the file was written and the end of its main range looked up.
 };
 
 /// Pours the ranges of the specification in the running spreadsheet (CurrentSheetLink()) into the data file.

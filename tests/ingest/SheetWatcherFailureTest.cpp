@@ -76,6 +76,35 @@ TEST_F(SheetWatcherFailureTest, ThesePassInSilenceAtEveryCall) {
   EXPECT_EQ(Poll(), 1) << "the next poll tries again";
 }
 
+TEST_F(SheetWatcherFailureTest, ABusySpreadsheetIsNoClosedOne) {
+  Settle();
+  SpecTyped = 1;
+  SpecTypedText = "=MAX(A2:C3)";
+  for (const int number : {-2147418111, 50290}) {
+    sheet.faults["GetRunningObject"] = FaultOf(number);
+    EXPECT_EQ(Poll(), 0) << "the typed specification is not looked at";
+    EXPECT_EQ(LastFormula, kPlain);
+    EXPECT_EQ(FormulaArmed, 0);
+    EXPECT_EQ(WatchStopped, 0);
+  }
+  sheet.faults.clear();
+  EXPECT_EQ(Poll(), 0) << "the next poll finds what it knows";
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
+}
+
+TEST_F(SheetWatcherFailureTest, ABusySpreadsheetDoesNotMakeTheQuestionComeAgain) {
+  Settle();
+  sheet.books.clear();
+  dialogs.answers = {BoxAnswer::cancel};
+  EXPECT_EQ(Poll(), 0);
+  EXPECT_EQ(dialogs.boxes.size(), 2U);
+  sheet.faults["GetRunningObject"] = FaultOf(50290);
+  EXPECT_EQ(Poll(), 0);
+  sheet.faults.clear();
+  EXPECT_EQ(Poll(), 0);
+  EXPECT_EQ(dialogs.boxes.size(), 2U);
+}
+
 TEST_F(SheetWatcherFailureTest, FileFailuresGoOnWithTheNextStatement) {
   Settle();
   for (const int number : {53, 52}) {

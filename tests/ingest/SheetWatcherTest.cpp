@@ -233,5 +233,26 @@ TEST_F(SheetWatcherTest, ATypedSpecificationIsNotLookedAtWhenASpecificationIsSel
   EXPECT_EQ(Poll(), 1) << "by the cell, which differs from both";
 }
 
+TEST_F(SheetWatcherTest, ATypedSpecificationGivesWayToTheOneThatWasSelected) {
+  Settle();
+  book_->Select(5, 5);
+  EXPECT_EQ(Poll(), 0);
+  book_->Select(6, 6);
+  EXPECT_EQ(Poll(), 1);
+  ASSERT_EQ(LastFormula, "six");
+  SpecTyped = 1;
+  SpecTypedText = "=MAX(A2:C3)";
+  book_->Select(kFormulaRow, kFormulaColumn);
+  EXPECT_EQ(Poll(), 0) << "a specification is selected";
+  EXPECT_EQ(FormulaArmed, 1);
+  EXPECT_EQ(SeenFormula, kPlain);
+  sheet.Vanish();
+  EXPECT_EQ(Poll(), 0) << "one was seen last";
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
+  SeenFormula = "five";
+  dialogs.answers = {BoxAnswer::cancel};
+  EXPECT_EQ(Poll(), 1) << "none was";
+}
+
 }  // namespace
 }  // namespace quorb

@@ -246,5 +246,32 @@ TEST_F(SpreadsheetSessionTest, AnUpdateWhileASpecificationIsWaitedForReadsTheShe
   EXPECT_FALSE(SpreadsheetInUse());
 }
 
+// ---- a range of one row -----------------------------------------------------------------------------------
+
+TEST_F(SpreadsheetSessionTest, ARangeWhoseSearchedEndIsItsStartIsStrange) {
+  MemoryBook& book = AddPlotBook("=2+LEN(\"kmday\")+MAX(A2:C2)");
+  for (int column = 1; column <= 3; ++column) {
+    book.cells.erase({3, column});
+    book.cells.erase({4, column});
+  }
+  LoadFromSheet();
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].prompt, "Strange <num1 = num2 And SpecFound = 1> , see Lamdor");
+  EXPECT_EQ(LastPoint, 0);
+  EXPECT_EQ(dataXYZT[0][1], 42) << "the point is there: 21 x 2";
+}
+
+TEST_F(SpreadsheetSessionTest, ARangeOfOneRowInAFileIsNotStrange) {
+  Load(Header("=2+LEN(\"kmday\")+MAX(A4:C4)") + "41\t42\t43\t\r\n");
+  EXPECT_THAT(dialogs.boxes, testing::IsEmpty());
+}
+
+TEST_F(SpreadsheetSessionTest, ARangeWhoseSearchedEndIsFurtherDownIsNotStrange) {
+  AddPlotBook("=2+LEN(\"kmday\")+MAX(A2:C2)");
+  LoadFromSheet();
+  EXPECT_THAT(dialogs.boxes, testing::IsEmpty());
+  EXPECT_EQ(LastPoint, 2);
+}
+
 }  // namespace
 }  // namespace quorb

@@ -251,6 +251,28 @@ TEST_F(TitleTermsTest, ATailStandsBehindTheTitle) {
   EXPECT_EQ(WrittenFile().substr(0, 110).find("Orbit number 7") != std::string::npos, true);
 }
 
+TEST_F(TitleTermsTest, ATailIsOnThePlotAndItsKeywordsCount) {
+  MemoryBook& book = AddPlotBook("=2+NB(\"Orbit \"&B8)+MAX(A2:C4)");
+  book.SetText(8, 2, "number 7 kmday");
+  LoadFromSheet();
+  EXPECT_EQ(MessageUserToPlot, "Orbit number 7");
+  EXPECT_EQ(dataXYZT[0][1], 42) << "kilometres: 21 x 2";
+  const std::string file = files.contents[kLastFile];
+  MessageUserToPlot.clear();
+  Load(file);
+  EXPECT_EQ(MessageUserToPlot, "Orbit number 7") << "also when the file is opened later";
+}
+
+TEST_F(TitleTermsTest, AHeaderThatGoesAnotherWayThanItsFormulaDoesNotCount) {
+  const std::string row = "1\t2\t3\t\r\n";
+  Load(Header("=2+LEN(\"Orbit\")+MAX(A2:C2)", "2", "Orbit and more") + row);
+  EXPECT_EQ(MessageUserToPlot, "Orbit") << "nothing is joined in this formula";
+  Load(Header("=2+LEN(\"Orbit\"&B8)+MAX(A2:C2)", "2", "Another") + row);
+  EXPECT_EQ(MessageUserToPlot, "Orbit");
+  Load(Header("=2+LEN(\"Orbit\"&B8)+MAX(A2:C2)", "2", "Orbit") + row);
+  EXPECT_EQ(MessageUserToPlot, "Orbit");
+}
+
 TEST_F(TitleTermsTest, WithoutAConcatenationThereIsNoTail) {
   EXPECT_EQ(Tail("=LEN(\"Orbit\")+MAX(A2:C4)"), "");
   EXPECT_EQ(Tail("=MAX(A2:C4)&B3"), "");

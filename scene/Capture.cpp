@@ -78,8 +78,8 @@ bool ClassGl::WriteBitmap(const std::string& path, int x, int y, int w, int h) {
   return written;
 }
 
-void ClassGl::SaveBMP(const std::string& name, const std::string& directory) {
-  WriteBitmap(PathIn(directory, name), 0, 0, Host.Width(), Host.Height());
+bool ClassGl::SaveBMP(const std::string& name, const std::string& directory) {
+  return WriteBitmap(PathIn(directory, name), 0, 0, Host.Width(), Host.Height());
 }
 
 }  // namespace quorb

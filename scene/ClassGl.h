@@ -139,13 +139,16 @@ class ClassGl : public PlotExtent {
 
   /// Writes the picture of the last frame as a BMP file into `directory`, under `name`, or "ImageSaved.bmp"
   /// when that is empty. A file of this name is replaced. A fault leaves no file and shows no message.
-  void SaveBMP(const std::string& name, const std::string& directory);
+  /// @return false when nothing was written.
+  bool SaveBMP(const std::string& name, const std::string& directory);
   /// Writes w + 1 by h pixels from (x, y), which counts from the bottom left corner, cut at the view's edges.
   /// @return false when nothing was written.
   bool WriteBitmap(const std::string& path, int x, int y, int w, int h);
   /// Saves the next frame of the running movie when it is due, in the time of the data or of the clock, or
-  /// ends the movie behind its last frame.
+  /// ends the movie behind its last frame. A frame that cannot be written is left out, and the movie goes on.
   void MovieSaveAs();
+  /// Hears of the first frame of a series that cannot be written, by its file name; nothing until it is set.
+  std::function<void(const std::string& name)> MovieFrameLost;
 
   // ---- colours ------------------------------------------------------------------------------------------
 
@@ -277,6 +280,8 @@ class ClassGl : public PlotExtent {
   /// What the last two frames were drawn from, as it stood at their ends.
   FrameKey LastKey, KeyBefore;
   bool IsInFrame = false;
+  /// A frame of the running movie could not be written, and that was told.
+  bool FrameLossTold = false;
   /// The rows are a client's: one point with one event is a plot too.
   bool RowsAreChanged = false;
   /// The number of the load whose view stays though its rows change; -1 for none.

@@ -35,7 +35,13 @@ void ClassGl::MovieSaveAs() {
 }
 
 void ClassGl::SaveMovieFrame() {
-  SaveBMP(MoviePrefix + FormatPicture(USERFLAG.MovieFrameCount, "#") + ".bmp", MovieDirectory);
+  if (USERFLAG.MovieFrameCount == 1) FrameLossTold = false;
+  const std::string name = MoviePrefix + FormatPicture(USERFLAG.MovieFrameCount, "#") + ".bmp";
+  const bool written = SaveBMP(name, MovieDirectory);
+  if (!written && !FrameLossTold) {
+    FrameLossTold = true;
+    if (MovieFrameLost) MovieFrameLost(name);
+  }
   USERFLAG.MovieFrameCount += 1;
 }
 

@@ -19,6 +19,7 @@ namespace quorb {
 namespace {
 
 constexpr std::string_view kMarksOutOfNames = "/\\:";
+constexpr std::string_view kNotSaved = "Not saved: ";
 constexpr int kPausesForExplorer = 2;
 constexpr std::chrono::milliseconds kPause(50);
 
@@ -54,6 +55,17 @@ void ShowImages(const std::string& directory, const std::string& message) {
   frmMain->Text21.text = message;
 }
 
+std::string FailureText(const std::string& name, const std::string& directory) {
+  return std::string(kNotSaved) + name + " cannot be written into \"" + directory +
+         "\". Check that this directory exists, may be written and has room, or give another one in the "
+         "options.";
+}
+
+void TakeFailureBack() {
+  TextBox& message = frmMain->Text21;
+  if (message.text.Get().starts_with(kNotSaved)) message.text = "";
+}
+
 }  // namespace
 
 std::string TimeStamp() {
@@ -64,7 +76,11 @@ void mnuFSaveAs_Click() {
   const std::string wanted = ImageDirectory();
   const std::string name = "Quorb" + TimeStamp() + ".bmp";
   const std::string directory = RealDirectory(wanted, name);
-  TheScene->SaveBMP(name, directory);
+  if (!TheScene->SaveBMP(name, directory)) {
+    frmMain->Text21.text = FailureText(name, directory);
+    return;
+  }
+  TakeFailureBack();
   if (frmMain->ExplorerShown) return;
   std::string message = "Explorer open with image saved " + name;
   if (directory != wanted) {
@@ -81,6 +97,10 @@ void mnuFMovieSaveAs_Click() {
   MoviePrefix = "Quorb" + TimeStamp();
   MovieDirectory = RealDirectory(ImageDirectory(), MoviePrefix);
   ShowVideoWindow();
+}
+
+void TellMovieFrameLost(const std::string& name) {
+  frmMain->Text21.text = FailureText(name, MovieDirectory) + " The movie goes on.";
 }
 
 }  // namespace quorb

@@ -18,6 +18,7 @@
 #include "PlotData.h"
 #include "RunState.h"
 #include "SatelliteControls.h"
+#include "SaveImage.h"
 #include "Settings.h"
 #include "SettingsStore.h"
 #include "SheetControls.h"
@@ -165,6 +166,7 @@ void StartScene(glCtl& host) {
   TheScene = std::make_unique<ClassGl>(host);
   MakeBodies();
   TheScene->WatchSheet = [] { WatchSheet(); };
+  TheScene->MovieFrameLost = TellMovieFrameLost;
   HScroll1_Change();
   HScroll2_Change();
   TheScene->EditState(static_cast<int>(MouseMode::pan));
@@ -278,6 +280,10 @@ void Form_KeyDown(int& KeyCode, int Shift) {
 }
 
 void Form_KeyUp(int, int) {
+  LetKeysGo();
+}
+
+void LetKeysGo() {
   ShiftState = 0;
   LastKeyReleased = 1;
 }

@@ -128,6 +128,10 @@ void Form_Resize();
 void Form_KeyDown(int& KeyCode, int Shift);
 void Form_KeyUp(int KeyCode, int Shift);
 
+/// The keys go to another window or to an open menu now, and with them the key up that the form would wait
+/// for: the keys that are held count as gone up.
+void LetKeysGo();
+
 /// The window is being closed: the program ends at once, nothing is saved.
 void Form_Unload();
 
@@ -149,7 +153,7 @@ void glxCtl1_TimerTick();
 
 extern int FirstActivated;         ///< 1 once the first activation has loaded the data
 extern int OneShotView;            ///< 1 once the first isometric view was set by the animation tick
-extern int ShiftState;             ///< modifier mask of the last key down; key up clears it
+extern int ShiftState;             ///< modifier mask of the last key down; 0 once that key is up
 extern int LastKeyCode;            ///< code of the last key down
 extern int LastKeyReleased;        ///< 1 once that key has gone up
 extern int PlotWidth, PlotHeight;  ///< size of the plot in pixels, as the host told it last

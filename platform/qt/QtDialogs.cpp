@@ -64,7 +64,17 @@ BoxAnswer AnswerOf(int button) {
   }
 }
 
+int layoutsUnderWay = 0;
+
 }  // namespace
+
+LayoutUnderWay::LayoutUnderWay() {
+  ++layoutsUnderWay;
+}
+
+LayoutUnderWay::~LayoutUnderWay() {
+  --layoutsUnderWay;
+}
 
 BoxAnswer QtDialogs::MessageBox(const std::string& prompt, const std::string& title, int style) {
   QMessageBox box(IconOf(style), QString::fromStdString(title), QString::fromStdString(prompt),
@@ -83,7 +93,7 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
 }
 
 void QtDialogs::PumpEvents() {
-  QCoreApplication::processEvents();
+  if (layoutsUnderWay == 0) QCoreApplication::processEvents();
 }
 
 void QtDialogs::EndProgram() {

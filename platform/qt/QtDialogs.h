@@ -6,6 +6,16 @@
 
 namespace quorb {
 
+/// For as long as one lives the toolkit lays a window out, and QtDialogs lets no events through: another size
+/// that came meanwhile would pull the layout away from under it. They come when the layout is done.
+class LayoutUnderWay {
+ public:
+  LayoutUnderWay();
+  ~LayoutUnderWay();
+  LayoutUnderWay(const LayoutUnderWay&) = delete;
+  LayoutUnderWay& operator=(const LayoutUnderWay&) = delete;
+};
+
 /// Message and input boxes of the toolkit, over the active window.
 class QtDialogs : public Dialogs {
  public:

@@ -19,6 +19,7 @@
 #include "MenuBinding.h"
 #include "MovieWindow.h"
 #include "PanelWidget.h"
+#include "QtDialogs.h"
 #include "RunState.h"
 #include "ToolBarBinding.h"
 #include "UserFlag.h"
@@ -50,6 +51,11 @@ int Pixels(double twips) {
 
 QRect PlaceOf(const Control& control) {
   return {Pixels(control.Left), Pixels(control.Top), Pixels(control.Width), Pixels(control.Height)};
+}
+
+/// An open menu or list: it takes the keys, though the window stays the active one.
+bool IsPopup(const QObject& object) {
+  return object.isWidgetType() && static_cast<const QWidget&>(object).windowType() == Qt::Popup;
 }
 
 /// The position of the tool that a mouse mode is chosen with.
@@ -207,7 +213,7 @@ void ViewerWindow::OrderFocus() {
 }
 
 void ViewerWindow::ShowMouseMode() {
-  const int position = PositionOf(static_cast<MouseMode>(static_cast<int>(TheScene->EditState())));
+  const int position = PositionOf(static_cast<MouseMode>(TheScene->EditState()));
   for (const int other : {1, 2, 3})
     viewBar_->ActionAt(other).setChecked(other == position);
   strip_->ShowHint(QString::fromStdString(frmMain->Toolbar1.Button(position).toolTip));
@@ -231,6 +237,7 @@ void ViewerWindow::MeasureFrame() {
 }
 
 void ViewerWindow::LayOut() {
+  const LayoutUnderWay underWay;
   MainWindow& window = *frmMain;
   window.StatusBar1.Height = strip_->HeightFor(canvas_->width()) * kTwipsPerPixel;
   MeasureFrame();
@@ -258,6 +265,7 @@ bool ViewerWindow::event(QEvent* event) {
   const bool handled = QMainWindow::event(event);
   if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Move) MeasureFrame();
   if (event->type() == QEvent::WindowActivate && activated_) WindowComesForward(ProgramWindow::main);
+  if (event->type() == QEvent::WindowDeactivate) LetKeysGo();
   return handled;
 }
 
@@ -278,6 +286,7 @@ void ViewerWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool ViewerWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && IsPopup(*watched)) LetKeysGo();
   if (watched == canvas_ && event->type() == QEvent::Resize && strip_ != nullptr) LayOut();
   const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
   if (isKey && TakesKeysFirst(*watched) &&

@@ -161,7 +161,10 @@ std::string SystemFiles::RealLocation(const std::string& path) const {
   const std::string directory = whole.parent_path().string();
   const bool isReadOnly = access(directory.c_str(), W_OK) != 0 && (errno == EACCES || errno == EROFS);
   if (!isReadOnly) return path;
-  return CurrentUserDirectories().data + "/QuorbExcelPro/" + whole.filename().string();
+  const std::string redirected = CurrentUserDirectories().data + "/QuorbExcelPro/";
+  std::error_code ignored;
+  std::filesystem::create_directories(redirected, ignored);
+  return redirected + whole.filename().string();
 }
 
 std::unique_ptr<MappedFile> SystemFiles::Map(const std::string& path, int& errorNumber) {

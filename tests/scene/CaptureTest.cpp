@@ -156,13 +156,13 @@ TEST_F(CaptureTest, TheDirectoryMayBeWrittenWithTheOtherMark) {
 }
 
 TEST_F(CaptureTest, AnEmptyNameIsImageSaved) {
-  scene.SaveBMP("", directory.File(""));
+  EXPECT_TRUE(scene.SaveBMP("", directory.File("")));
   EXPECT_EQ(ReadBytes(directory.File("ImageSaved.bmp")).size(), 58U + 6 * 24);
 }
 
 TEST_F(CaptureTest, AMissingDirectoryMeansNoFileAndNoMessage) {
   ScriptedDialogs dialogs;
-  scene.SaveBMP("a.bmp", directory.File("missing"));
+  EXPECT_FALSE(scene.SaveBMP("a.bmp", directory.File("missing")));
   EXPECT_EQ(directory.EntryCount(), 0U);
   EXPECT_TRUE(dialogs.boxes.empty());
   EXPECT_EQ(RecordedCalls().back(), "ShowBusy(false)");

@@ -179,6 +179,28 @@ TEST_F(MovieTest, AMissingDirectoryLetsTheMovieRunOnWithoutAMessage) {
   EXPECT_TRUE(dialogs.boxes.empty());
 }
 
+TEST_F(MovieTest, TheFirstFrameOfASeriesThatCannotBeWrittenIsTold) {
+  std::vector<std::string> lost;
+  scene.MovieFrameLost = [&lost](const std::string& name) { lost.push_back(name); };
+  const std::string place = MovieDirectory;
+  EXPECT_TRUE(SavesAtClock(10));
+  EXPECT_THAT(lost, IsEmpty());
+  MovieDirectory = directory.File("missing");
+  EXPECT_TRUE(SavesAtClock(20));
+  EXPECT_TRUE(SavesAtClock(30));
+  EXPECT_THAT(lost, ElementsAre("orbit2.bmp"));
+  MovieDirectory = place;
+  EXPECT_TRUE(SavesAtClock(40)) << "it goes on";
+  EXPECT_EQ(SizeOf("orbit4.bmp"), kFrameSize);
+
+  USERFLAG.MovieFrameCount = 1;
+  MoviePrefix = "later";
+  MovieDirectory = directory.File("missing");
+  EXPECT_TRUE(SavesAtClock(50));
+  EXPECT_TRUE(SavesAtClock(60));
+  EXPECT_THAT(lost, ElementsAre("orbit2.bmp", "later1.bmp"));
+}
+
 TEST_F(MovieTest, TheTimerSavesTheMovieOfTheRunningTime) {
   USERFLAG.MovieRealTime = 1;
   USERFLAG.MovieFrameTime = 86400;

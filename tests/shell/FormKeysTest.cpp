@@ -4,7 +4,8 @@
 namespace quorb {
 namespace {
 
-constexpr int kShift = 1, kControl = 2;
+constexpr int kShift = 1, kControl = 2, kAlt = 4;
+constexpr int kAltKey = 18;
 
 /// The dispatcher of the tool bars has had its first call, which turns the view.
 class FormKeysTest : public WindowFixture {
@@ -37,6 +38,24 @@ TEST_F(FormKeysTest, AKeyUpClearsTheModifiersAndKeepsTheCode) {
   Form_KeyUp(66, kShift);
   EXPECT_EQ(ShiftState, 0);
   EXPECT_EQ(LastKeyCode, 66);
+}
+
+// Alt goes down in the window, and up in the menu or the window that it opened.
+TEST_F(FormKeysTest, KeysThatGoElsewhereCountAsGoneUp) {
+  Press(kAltKey, kAlt);
+  LetKeysGo();
+  EXPECT_EQ(ShiftState, 0);
+  EXPECT_EQ(LastKeyReleased, 1);
+  EXPECT_EQ(LastKeyCode, kAltKey);
+}
+
+TEST_F(FormKeysTest, BehindKeysThatWentElsewhereTheProjectionsGoForward) {
+  std::string projections = "quorbxy";
+  TheScene->CameraSteps.ProjStep = 1;
+  Press(kAltKey, kAlt);
+  LetKeysGo();
+  ToolbarCommand(projections);
+  EXPECT_EQ(TheScene->CameraSteps.ProjStep, 2);
 }
 
 TEST_F(FormKeysTest, EnterClosesTheOpenPanelAsItsCloseButtonDoes) {

@@ -114,6 +114,21 @@ TEST_F(HelpTest, OkRunsTheDemonstrationWithFactoryOptions) {
   EXPECT_EQ(dialogs.boxes[4].prompt, "The demo will be shown.");
 }
 
+TEST_F(HelpTest, TheSpacecraftIsMadeAnewBehindEitherAnswer) {
+  OpenNamedFile();
+  FileMode = 2;
+  USERFLAG.SatelliteModelReady = 1;
+  const int loads = LoadsStarted;
+  Help(BoxAnswer::cancel);
+  ASSERT_EQ(LoadsStarted, loads) << "a load would make it anew too";
+  EXPECT_EQ(USERFLAG.SatelliteModelReady, 0);
+
+  USERFLAG.SatelliteModelReady = 1;
+  Help(BoxAnswer::ok);
+  EXPECT_EQ(USERFLAG.SatelliteModelReady, 0);
+  EXPECT_EQ(USERFLAGsaved.SatelliteModelReady, 0) << "the options that come back want it made anew too";
+}
+
 TEST_F(HelpTest, CancelBringsTheOptionsAndTheNamedFileBack) {
   OpenNamedFile();
   Help(BoxAnswer::ok);

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "Movie.h"
+#include "ScriptedDayClock.h"
 #include "TemporaryDirectory.h"
 #include "WindowFixture.h"
 #include "frmVideo.h"
@@ -88,7 +89,7 @@ TEST_F(SaveImageTest, AnImageThatStandsElsewhereIsToldWithItsPlace) {
                                           " But since Windows 8... and its VirtualStore it is now: " + place);
 }
 
-TEST_F(SaveImageTest, ADirectoryThatIsNoneSavesNothingAndTellsNothing) {
+TEST_F(SaveImageTest, ADirectoryThatIsNoneSavesNothingAndShowsNoBox) {
   const std::string file = place + "Quorb20260703_091502.bmp";
   window.mnuFSaveAs.clicked();
   for (const std::string& text : {file, std::string("/no/such/place"), std::string(10000, 'd')}) {
@@ -98,6 +99,68 @@ TEST_F(SaveImageTest, ADirectoryThatIsNoneSavesNothingAndTellsNothing) {
   }
   EXPECT_EQ(Saved().size(), 1U);
   EXPECT_THAT(dialogs.boxes, IsEmpty());
+}
+
+TEST_F(SaveImageTest, AnImageThatCannotBeWrittenIsToldAndItsDirectoryNotShown) {
+  window.Text6.text = "/no/such/place";
+  window.mnuFSaveAs.clicked();
+  EXPECT_EQ(window.Text21.text.Get(),
+            "Not saved: Quorb20260703_091502.bmp cannot be written into \"/no/such/place/\". Check that this "
+            "directory exists, may be written and has room, or give another one in the options.");
+  EXPECT_THAT(desktop.shown, IsEmpty());
+  EXPECT_FALSE(window.ExplorerShown) << "the first image that is saved shows its directory";
+  EXPECT_THAT(dialogs.boxes, IsEmpty());
+}
+
+TEST_F(SaveImageTest, AnImageThatCannotBeWrittenElsewhereIsToldWithThatPlace) {
+  const std::string name = "Quorb20260703_091502.bmp";
+  window.Text6.text = "/opt/quorb/";
+  files.realLocations["/opt/quorb/" + name] = "/no/such/home/" + name;
+  window.mnuFSaveAs.clicked();
+  EXPECT_THAT(window.Text21.text.Get(),
+              testing::StartsWith("Not saved: " + name + " cannot be written into \"/no/such/home/\"."));
+}
+
+TEST_F(SaveImageTest, EachFailureIsToldAndTheNextSuccessTakesItBack) {
+  window.mnuFSaveAs.clicked();
+  window.Text6.text = "/no/such/place";
+  desktop.time = "09:16:00";
+  window.mnuFSaveAs.clicked();
+  EXPECT_THAT(window.Text21.text.Get(), testing::StartsWith("Not saved: Quorb20260703_091600.bmp"));
+  desktop.time = "09:17:00";
+  window.mnuFSaveAs.clicked();
+  EXPECT_THAT(window.Text21.text.Get(), testing::StartsWith("Not saved: Quorb20260703_091700.bmp"));
+  window.Text6.text = place;
+  window.mnuFSaveAs.clicked();
+  EXPECT_EQ(window.Text21.text.Get(), "");
+  EXPECT_EQ(Saved().size(), 2U);
+}
+
+TEST_F(SaveImageTest, ASecondImageLeavesAnotherMessage) {
+  window.mnuFSaveAs.clicked();
+  window.Text21.text = "reading";
+  desktop.time = "09:16:00";
+  window.mnuFSaveAs.clicked();
+  EXPECT_EQ(window.Text21.text.Get(), "reading");
+}
+
+TEST_F(SaveImageTest, AFrameOfAMovieThatCannotBeWrittenIsToldOnce) {
+  window.Text6.text = "/no/such/place";
+  window.mnuFMovieSaveAs.clicked();
+  ScriptedDayClock clock;
+  clock.seconds = 36000;
+  frmVideo().Command1.clicked();
+  TheScene->MovieSaveAs();
+  EXPECT_EQ(
+      window.Text21.text.Get(),
+      "Not saved: Quorb20260703_0915021.bmp cannot be written into \"/no/such/place/\". Check that this "
+      "directory exists, may be written and has room, or give another one in the options. The movie goes "
+      "on.");
+  window.Text21.text = "";
+  clock.seconds = 36010;
+  TheScene->MovieSaveAs();
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 3);
+  EXPECT_EQ(window.Text21.text.Get(), "");
 }
 
 TEST_F(SaveImageTest, AMovieIsNamedAndItsWindowShown) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -21,6 +22,7 @@ class Background {
              int inherited = -1) {
     process_ = fork();
     if (process_ != 0) return;
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // it does not outlive a test that crashes
     for (const std::string& entry : environment)
       putenv(const_cast<char*>(entry.c_str()));
     if (inherited >= 0) dup2(inherited, 3);

@@ -190,5 +190,20 @@ TEST_F(Frame, TheDesktopTakesATextToTheClipboard) {
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QString::fromUtf8("first\nsecond é"));
 }
 
+// As a user does who drags the window's edge: the next size comes while the last one is laid out.
+TEST_F(Frame, ManySizesInARowDoNoHarm) {
+  OpenSmallPlot();
+  ShowMenus();
+  frmMain->mnuFRunPowerPoint.clicked();
+  for (int round = 0; round < 5; ++round) {
+    for (const int width : {620, 420, 1000, 420, 900, 350, 1280}) {
+      window->resize(width, 800 - 10 * round);
+      ASSERT_TRUE(QTest::qWaitFor([&] { return plot->width() == width; }));
+    }
+  }
+  EXPECT_TRUE(QTest::qWaitFor([this] { return plot->width() == 1280; }));
+  EXPECT_EQ(Find("StatusBar1").geometry().bottom(), Find("StatusBar1").parentWidget()->height() - 1);
+}
+
 }  // namespace
 }  // namespace quorb

@@ -15,6 +15,7 @@ namespace {
 constexpr double kDefaultFrames = 20;
 constexpr double kSecondsPerDay = 86400;
 constexpr double kNeverReached = 100000;
+constexpr double kLongAgo = -1e300;
 constexpr double kDataSecondsPerStep = 4;
 constexpr int kClockPeriods = 16;
 constexpr int kDataPeriods = 21600;
@@ -104,7 +105,8 @@ void VideoWindow::Check1_Click() {
 }
 
 void VideoWindow::Command1_Click() {
-  if (Command1.Tag == kRestartTag) {
+  // A movie that has ended behind its pause cannot go on.
+  if (Command1.Tag == kRestartTag && USERFLAG.MovieFrameCount > 0) {
     GoOn();
   } else {
     Start();
@@ -113,7 +115,7 @@ void VideoWindow::Command1_Click() {
 
 void VideoWindow::Start() {
   const double typedPeriod = ValText(Text1.text.Get());  // ahead of update(), which rewrites the field
-  Command1.caption = "Start Video";
+  ForgetPause();
   update();
   USERFLAG.MovieRealTime = Check1.value;
   USERFLAG.MovieFrameTime = typedPeriod;
@@ -126,9 +128,13 @@ void VideoWindow::Start() {
 void VideoWindow::GoOn() {
   if (USERFLAG.MovieRealTime == 1.0) USERFLAG.MovieNextTime = USERFLAG.MovieDataTime * kSecondsPerDay;
   if (USERFLAG.MovieRealTime == 0) USERFLAG.MovieNextTime = CurrentDayClock().Seconds();
+  ForgetPause();
+  update();
+}
+
+void VideoWindow::ForgetPause() {
   Command1.Tag.clear();
   Command1.caption = "Start Video";
-  update();
 }
 
 void VideoWindow::Command2_Click() {
@@ -141,6 +147,10 @@ void VideoWindow::Command2_Click() {
 void VideoWindow::Command3_Click() {
   USERFLAG.MovieFrames = USERFLAG.MovieFrameCount;
   update();
+  // The writer ends behind one more frame, which might never come due: behind a pause, or while the time of
+  // the data stands still.
+  if (USERFLAG.MovieFrameCount > 0) USERFLAG.MovieNextTime = kLongAgo;
+  ForgetPause();
   form.visible = false;
   WindowComesForward(ProgramWindow::main);
 }

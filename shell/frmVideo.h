@@ -41,11 +41,14 @@ struct VideoWindow {
   void Check1_Click();
   void Command1_Click();
   void Command2_Click();
+  /// Ends the movie behind one more frame, which is due at once, also behind a pause. The window hides.
   void Command3_Click();
 
  private:
   void Start();
   void GoOn();
+  /// Command1 starts a movie again.
+  void ForgetPause();
 };
 
 /// The movie window; made on its first use.

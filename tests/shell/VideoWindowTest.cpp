@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -28,6 +29,25 @@ class VideoWindowTest : public WindowFixture {
     }
   }
 
+  /// The main window with a view of 4 x 2 pixels, whose frames go into the directory as "orbit1.bmp" onward.
+  void ShowSmallView() {
+    Load();
+    MovieDirectory = directory.File("");
+    MoviePrefix = "orbit";
+    SetView(4, 2, [](int, int) { return std::array<std::uint8_t, 3>{1, 2, 3}; });
+    host.width = 4;
+    host.height = 2;
+  }
+
+  /// Ticks of the movie, a second apart.
+  void Tick(int times) {
+    for (int tick = 0; tick < times; ++tick) {
+      clock.seconds += 1;
+      TheScene->MovieSaveAs();
+    }
+  }
+
+  TemporaryDirectory directory;
   ScriptedDayClock clock;
   VideoWindow& video = frmVideo();
 };
@@ -188,6 +208,16 @@ TEST_F(VideoWindowTest, AnyTextIsTakenForAPeriod) {
   }
 }
 
+TEST_F(VideoWindowTest, StartTakesTheKindOfTimeFromItsBox) {
+  USERFLAG.MovieRealTime = 1;
+  video.Command1.clicked();
+  EXPECT_EQ(USERFLAG.MovieRealTime, 0);
+  video.Check1.value = 1;
+  USERFLAG.MovieRealTime = 0;
+  video.Command1.clicked();
+  EXPECT_EQ(USERFLAG.MovieRealTime, 1);
+}
+
 // ---- pause, restart, end --------------------------------------------------------------------------------
 
 TEST_F(VideoWindowTest, ThePauseDoesNotChangeTheCounters) {
@@ -235,6 +265,68 @@ TEST_F(VideoWindowTest, TheEndStopsTheWriterAndHidesTheWindow) {
   EXPECT_FALSE(video.form.visible);
 }
 
+TEST_F(VideoWindowTest, TheEndBehindAPauseIsAnEnd) {
+  ShowSmallView();
+  video.Command1.clicked();
+  Tick(2);
+  video.Command2.clicked();
+  video.Command3.clicked();
+  EXPECT_EQ(USERFLAG.MovieFrames, 3);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 3);
+  EXPECT_EQ(video.Text3.text.Get(), "2 / 3 Frames ");
+  Tick(2);
+  EXPECT_EQ(directory.EntryCount(), 3) << "one more frame, without waiting";
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 0);
+  EXPECT_EQ(USERFLAG.MovieNextTime, 0);
+  RunMovie();
+  EXPECT_EQ(directory.EntryCount(), 3);
+
+  ShowVideoWindow();
+  EXPECT_EQ(video.Command1.caption.Get(), "Start Video");
+  MoviePrefix = "later";
+  video.Command1.clicked();
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 1);
+  Tick(1);
+  EXPECT_TRUE(std::filesystem::exists(directory.File("later1.bmp")));
+}
+
+TEST_F(VideoWindowTest, TheEndOfAMovieWhoseDataStandStillIsAnEnd) {
+  ShowSmallView();
+  video.Check1.value = 1;
+  video.Command1.clicked();
+  USERFLAG.MovieDataTime = 2.5;  // the last row
+  Tick(1);
+  Tick(5);
+  ASSERT_EQ(directory.EntryCount(), 1) << "no other one comes due";
+  video.Command3.clicked();
+  EXPECT_EQ(USERFLAG.MovieFrames, 2);
+  Tick(2);
+  EXPECT_EQ(directory.EntryCount(), 2);
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 0);
+  USERFLAG.MovieDataTime = 5;
+  RunMovie();
+  EXPECT_EQ(directory.EntryCount(), 2) << "none more when the plot is drawn anew";
+
+  ShowVideoWindow();
+  MoviePrefix = "later";
+  video.Command1.clicked();
+  Tick(1);
+  EXPECT_TRUE(std::filesystem::exists(directory.File("later1.bmp")));
+}
+
+TEST_F(VideoWindowTest, AMovieThatWasStoppedBehindItsPauseStartsAnew) {
+  video.Command1.clicked();
+  video.Command2.clicked();
+  USERFLAG.MovieFrameCount = 0;
+  USERFLAG.MovieNextTime = 0;
+  clock.seconds = 36100;
+  video.Command1.clicked();
+  EXPECT_EQ(USERFLAG.MovieFrameCount, 1);
+  EXPECT_EQ(USERFLAG.MovieNextTime, 0);
+  EXPECT_EQ(video.Command1.Tag, "");
+  EXPECT_EQ(video.Command1.caption.Get(), "Start Video");
+}
+
 TEST_F(VideoWindowTest, ClosingTheWindowLetsTheMovieGoOn) {
   video.Command1.clicked();
   video.Form_Close();
@@ -258,13 +350,7 @@ TEST_F(VideoWindowTest, AskedForAgainItComesToTheFrontAsItIs) {
 }
 
 TEST_F(VideoWindowTest, AMovieOfFiveFramesEndsByItself) {
-  Load();
-  const TemporaryDirectory directory;
-  MovieDirectory = directory.File("");
-  MoviePrefix = "orbit";
-  SetView(4, 2, [](int, int) { return std::array<std::uint8_t, 3>{1, 2, 3}; });
-  host.width = 4;
-  host.height = 2;
+  ShowSmallView();
   video.HScroll1.value = 5;
   video.Command1.clicked();
   RunMovie();
@@ -276,7 +362,6 @@ TEST_F(VideoWindowTest, AMovieOfFiveFramesEndsByItself) {
 
 TEST_F(VideoWindowTest, AnImageDirectoryThatIsAFileGivesNoFramesAndNoMessage) {
   Load();
-  const TemporaryDirectory directory;
   MovieDirectory = directory.File("file");
   std::ofstream(MovieDirectory) << "not a directory";
   MoviePrefix = "orbit";

@@ -92,7 +92,7 @@ TEST_F(Movie, AMovieOfFiveFramesIsMadeAndEnded) {
   EXPECT_EQ(Frames("movie"), 5);
 }
 
-// The writer sees the end when the next frame is due: it saves that one and stops.
+// The writer saves one more frame, which is due at once, and stops.
 TEST_F(Movie, ALongMovieIsEndedByItsButton) {
   OpenSmallPlot();
   SaveInto("ended");

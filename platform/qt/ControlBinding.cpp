@@ -86,6 +86,14 @@ void ShowText(QLineEdit& widget, const TextBox& control) {
   if (control.selLength > 0) widget.setSelection(control.selStart, control.selLength);
 }
 
+bool HoldsEntries(const QListWidget& widget, const QStringList& entries) {
+  if (widget.count() != entries.size()) return false;
+  for (int row = 0; row < widget.count(); ++row) {
+    if (widget.item(row)->text() != entries[row]) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 QString NameOf(const Control& control) {
@@ -194,8 +202,11 @@ void BindList(QListWidget& widget, ListBox& control,
     QStringList entries;
     for (const std::string& entry : control.items.Get())
       entries.append(shown(entry));
-    widget.clear();
-    widget.addItems(entries);
+    // Between the two clicks of a double click the entries stay as they are.
+    if (!HoldsEntries(widget, entries)) {
+      widget.clear();
+      widget.addItems(entries);
+    }
     widget.setCurrentRow(control.selected);
   };
   control.refresh();

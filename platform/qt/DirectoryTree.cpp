@@ -49,6 +49,9 @@ void DirectoryTree::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+// The first click has filled the tree anew: another directory may stand under the pointer by now.
+void DirectoryTree::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
+
 void DirectoryTree::GoTo(const QTreeWidgetItem* item) {
   if (item != nullptr) control_.selected = item->data(0, kRankRole).toInt();
 }

@@ -32,6 +32,14 @@ int Pixels(double twips) {
   return static_cast<int>(std::lround(twips / kTwipsPerPixel));
 }
 
+/// A place moved, and narrowed, until it stands whole in a room that is as high at least.
+QRect Inside(QRect place, const QSize& room) {
+  place.setWidth(std::min(place.width(), room.width()));
+  place.moveLeft(std::clamp(place.x(), 0, room.width() - place.width()));
+  place.moveTop(std::clamp(place.y(), 0, room.height() - place.height()));
+  return place;
+}
+
 }  // namespace
 
 FloatingPanel::FloatingPanel(quorb::Panel& control, QWidget& canvas) : QFrame(&canvas), control_(control) {
@@ -57,12 +65,17 @@ void FloatingPanel::Show() {
   const QWidget* const focused = window()->focusWidget();
   if (!control_.visible && (focused == this || isAncestorOf(focused))) GiveFocusBack();
   setVisible(control_.visible);
-  if (control_.visible) firstFocus_->setFocus();
+  // The user opens it, and so leaves whatever had the keyboard.
+  if (control_.visible) firstFocus_->setFocus(Qt::TabFocusReason);
 }
 
 void FloatingPanel::Place() {
-  const int height = std::min(Pixels(control_.Height), parentWidget()->height());
-  setGeometry(Pixels(control_.Left), Pixels(control_.Top), Pixels(control_.Width), height);
+  const QSize room = parentWidget()->size();
+  const QRect place(Pixels(control_.Left), Pixels(control_.Top), Pixels(control_.Width),
+                    std::min(Pixels(control_.Height), room.height()));
+  // Nobody could bring it nearer.
+  const bool staysInside = !control_.dragStarted;
+  setGeometry(staysInside ? Inside(place, room) : place);
 }
 
 void FloatingPanel::KeepInside() {

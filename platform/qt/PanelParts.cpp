@@ -41,7 +41,7 @@ QLabel* MakePanelTitle(QWidget& parent, const Panel& control) {
   QFont font = title->font();
   font.setBold(true);
   title->setFont(font);
-  title->setCursor(Qt::SizeAllCursor);
+  if (control.dragStarted) title->setCursor(Qt::SizeAllCursor);
   return title;
 }
 

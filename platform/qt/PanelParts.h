@@ -18,7 +18,7 @@ CommandButton* MakeCommand(QWidget& parent, Button& control);
 /// A text field that takes the room that there is. `name` is what a screen reader calls it; a field whose
 /// label is its buddy needs none.
 QLineEdit* MakeWideField(QWidget& parent, TextBox& control, const char* name);
-/// The caption of a panel, by which it is dragged.
+/// The caption of a panel, by which it is dragged where it can be dragged.
 QLabel* MakePanelTitle(QWidget& parent, const Panel& control);
 
 /// The widget, which keeps its place in the layout while it is hidden: nothing moves under the pointer.

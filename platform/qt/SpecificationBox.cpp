@@ -48,7 +48,6 @@ void SpecificationBox::keyPressEvent(QKeyEvent* event) {
 void SpecificationBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   ShowColours(true);
-  textEntered_ = currentText();
   // The list that drops down gives the focus back: its entries stay as they are then.
   if (event->reason() != Qt::PopupFocusReason && gotFocus) gotFocus();
 }

@@ -5,8 +5,10 @@
 
 namespace quorb {
 
-/// An editable list in which a text is entered by Enter, by a double click, or by leaving it with a changed
-/// text. Purple while it has the focus, pale without.
+/// An editable list in which a text is entered by Enter, by a double click, or by leaving it with another
+/// text than the one entered last. Another window that comes in front, the list that drops down and a key of
+/// the view enter nothing: the text waits for the next time that the box is left. Purple while it has the
+/// focus, pale without.
 class SpecificationBox : public QComboBox {
  public:
   explicit SpecificationBox(QWidget* parent);
@@ -30,7 +32,7 @@ class SpecificationBox : public QComboBox {
   void Enter();
   void ShowColours(bool focused);
 
-  QString textEntered_;
+  QString textEntered_;  ///< the last one
 };
 
 }  // namespace quorb

@@ -79,9 +79,14 @@ class Chooser : public PanelWindow {
     QTest::mouseDClick(chooser->windowHandle(), Qt::LeftButton, {}, widget.mapTo(chooser, place));
     QTest::qWait(20);
   }
-  void ClickDirectory(const QString& name) const {
-    ClickAt(*Tree().viewport(), Tree().visualItemRect(&Directory(name)).center());
+  /// With the display's own mouse, so that the window has time for what the first click asks for.
+  static void DoubleClickSlowly(const QWidget& widget, const QPoint& place) {
+    ActAsUser("mousemove" + PlaceText(widget, place) + "click --repeat 2 --delay 100 1");
   }
+  QPoint PlaceOfDirectory(const QString& name) const {
+    return Tree().visualItemRect(&Directory(name)).center();
+  }
+  void ClickDirectory(const QString& name) const { ClickAt(*Tree().viewport(), PlaceOfDirectory(name)); }
   QPoint PlaceOfFile(int row) const { return Files().visualItemRect(Files().item(row)).center(); }
   QPushButton& ButtonCalled(const QString& text) const {
     for (QPushButton* button : chooser->findChildren<QPushButton*>()) {
@@ -118,6 +123,34 @@ TEST_F(Chooser, TheMouseGoesToADirectoryAndOpensAFileByADoubleClick) {
   });
   EXPECT_EQ(CommandFileName, run.File("place/inside/third.qbv"));
   EXPECT_EQ(LastLoad().rows, 3);
+}
+
+TEST_F(Chooser, ADoubleClickOpensAFileThatWasNotSelected) {
+  OpenPlotWithOthers();
+  OpenChooser([this] {
+    EXPECT_EQ(Files().currentRow(), 0);
+    DoubleClickSlowly(*Files().viewport(), PlaceOfFile(1));
+  });
+  EXPECT_EQ(CommandFileName, run.File("place/second.qbv"));
+  EXPECT_EQ(LastLoad().rows, 3);
+}
+
+// Behind the first click the directory stands a row higher, and the one in it under the pointer.
+TEST_F(Chooser, ADoubleClickOnADirectoryGoesThereAndNoDeeper) {
+  OpenPlotWithOthers();
+  std::filesystem::create_directory(run.File("place/another"));
+  std::filesystem::create_directory(run.File("place/inside/deeper"));
+  OpenChooser([this] {
+    const QPoint place = PlaceOfDirectory("inside");
+    DoubleClickSlowly(*Tree().viewport(), place);
+    EXPECT_EQ(Tree().itemAt(place), &Directory("deeper"));
+    EXPECT_EQ(Tree().currentItem(), &Directory("inside"));
+    EXPECT_EQ(FileNames(), QStringList({"third.qbv"}));
+    // A click of its own goes on.
+    ClickDirectory("deeper");
+    EXPECT_EQ(FileNames(), QStringList());
+    Press(Qt::Key_Escape);
+  });
 }
 
 TEST_F(Chooser, ArrowsMarkADirectoryAndEnterGoesThere) {

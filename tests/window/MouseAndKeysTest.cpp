@@ -1,3 +1,5 @@
+#include <QComboBox>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <sstream>
 
@@ -158,6 +160,25 @@ TEST_F(MouseAndKeys, TheKeyIOutsideThePlotStepsOnceAndShowsTheView) {
   // Quadrant 1 round the axis Z: A 100, B 100, 100, with A -1 and B 1.
   EXPECT_EQ(TheScene->CameraSteps.RealQuadrant, 1);
   ExpectEye(-100, 100, 100);
+}
+
+// Axis 1 upward: the eye goes to a corner, X is up, and the letter is typed.
+TEST_F(MouseAndKeys, TheKeyXInTheBoxOfTheSpecificationTurnsTheViewAndIsTyped) {
+  OpenSmallPlot();
+  QComboBox* const box = window->findChild<QComboBox*>("Combo1");
+  ASSERT_NE(box, nullptr);
+  box->lineEdit()->setFocus();
+  HostCamera& camera = glxCtl1->Camera();
+  camera.SetPosition(1, 2, 3);
+  camera.SetUp(0, 0, 1);
+  Key(Qt::Key_X);
+  float x = 0, y = 0, z = 0;
+  camera.GetPosition(x, y, z);
+  EXPECT_EQ(std::vector<float>({std::abs(x), std::abs(y), std::abs(z)}), std::vector<float>({100, 100, 100}));
+  camera.GetUp(x, y, z);
+  EXPECT_EQ(std::vector<float>({x, y, z}), std::vector<float>({1, 0, 0}));
+  EXPECT_TRUE(box->hasFocus());
+  EXPECT_EQ(box->currentText(), "x");
 }
 
 TEST_F(MouseAndKeys, KeysWithoutACharacterLeaveTheEye) {

@@ -69,6 +69,29 @@ TEST_F(SlideShow, TheButtonCopiesTheLineAndTheOtherOneClosesThePanel) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return plot->hasFocus(); }));
 }
 
+TEST_F(SlideShow, ThePanelCannotBeDraggedAndItsTitleOffersNoDrag) {
+  OpenSmallPlot();
+  OpenSlidePanel();
+  const QLabel& title = *Find("Frame1").findChild<QLabel*>();
+  EXPECT_EQ(title.text(), "To run in PowerPoint");
+  EXPECT_EQ(title.cursor().shape(), Qt::ArrowCursor);
+  EXPECT_EQ(Find("Options").findChild<QLabel*>()->cursor().shape(), Qt::SizeAllCursor);
+}
+
+TEST_F(SlideShow, InANarrowWindowTheWholePanelIsReached) {
+  OpenSmallPlot();
+  frmMain->mnuFRunPowerPoint.clicked();
+  const QWidget& panel = Find("Frame1");
+  const QWidget& close = Find("Command5");
+  EXPECT_EQ(panel.x(), 40);
+  window->resize(420, 800);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return plot->width() == 420; }));
+  EXPECT_TRUE(panel.parentWidget()->rect().contains(panel.geometry()));
+  EXPECT_EQ(close.visibleRegion(), QRegion(close.rect()));
+  ClickOn(close);
+  EXPECT_FALSE(panel.isVisible());
+}
+
 TEST_F(SlideShow, BothPicturesAreDrawnAndThePointerHidesTheFirst) {
   OpenSmallPlot();
   MovePointerTo(*window, {1200, 700});

@@ -26,6 +26,28 @@ class Specification : public DrivenWindow {
     QTest::keyClick(window->windowHandle(), Qt::Key_V, Qt::ControlModifier);
     Key(Qt::Key_Return);
   }
+
+  /// Gives the box the keyboard and types a text, which is not entered yet.
+  void Type(const QString& text) const {
+    SpecTyped = 0;
+    Box().lineEdit()->setFocus();
+    // It opens as wide as the progress bar.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Box().width() == Find("ProgressBar1").width(); }));
+    QTest::keyClicks(Box().lineEdit(), text);
+    EXPECT_EQ(SpecTyped, 0);
+  }
+  void ClickIntoPlot() const {
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, At(300, 300));
+    EXPECT_TRUE(plot->hasFocus());
+  }
+  static void ExpectEntered(const std::string& text) {
+    EXPECT_EQ(SpecTyped, 1);
+    EXPECT_EQ(SpecTypedText, text);
+  }
+  static void BringForward(QWidget& other) {
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+  }
 };
 
 TEST_F(Specification, AnyTextIsTakenAsItStands) {
@@ -67,20 +89,82 @@ TEST_F(Specification, ALongerOneThanAWorksheetTakesIsKeptWholeAndTold) {
 
 TEST_F(Specification, LeavingTheBoxWithAnotherTextEntersIt) {
   OpenSmallPlot();
+  Type("=MAX(A2:C9)");
+  ClickIntoPlot();
+  ExpectEntered("=MAX(A2:C9)");
+}
+
+TEST_F(Specification, LeavingTheBoxWithTheTextThatWasEnteredEntersNothing) {
+  OpenSmallPlot();
+  Enter("=MAX(A2:C9)");
   SpecTyped = 0;
-  Box().lineEdit()->setFocus();
-  QTest::keyClicks(Box().lineEdit(), "=MAX(A2:C9)");
+  ClickIntoPlot();
+  ClickOn(Box());
+  EXPECT_TRUE(Box().hasFocus());
+  ClickIntoPlot();
   EXPECT_EQ(SpecTyped, 0);
-  plot->setFocus(Qt::MouseFocusReason);
-  EXPECT_EQ(SpecTyped, 1);
-  EXPECT_EQ(SpecTypedText, "=MAX(A2:C9)");
+}
+
+TEST_F(Specification, ADoubleClickEntersTheText) {
+  OpenSmallPlot();
+  Type("=MAX(A2:C9)");
+  DoubleClickOn(*Box().lineEdit());
+  ExpectEntered("=MAX(A2:C9)");
+}
+
+TEST_F(Specification, ATextFromBeforeAnotherWindowCameInFrontIsEnteredByLeavingTheBox) {
+  OpenSmallPlot();
+  QWidget other;
+  other.setGeometry(0, 0, 50, 50);
+  other.show();
+  BringForward(*window);
+  Type("=MAX(A2:C9)");
+  BringForward(other);
+  BringForward(*window);
+  EXPECT_TRUE(Box().hasFocus());
+  EXPECT_EQ(SpecTyped, 0);
+  ClickIntoPlot();
+  ExpectEntered("=MAX(A2:C9)");
+}
+
+TEST_F(Specification, ATextFromBeforeAKeyOfTheViewIsEnteredByComingBackAndLeavingTheBox) {
+  OpenSmallPlot();
+  Type("=MAX(A2:C9)");
+  Key(Qt::Key_Left);
+  ClickOn(Box());
+  EXPECT_TRUE(Box().hasFocus());
+  EXPECT_EQ(SpecTyped, 0);
+  ClickIntoPlot();
+  ExpectEntered("=MAX(A2:C9)");
+}
+
+TEST_F(Specification, ATextFromBeforeTheListWasOpenedIsEnteredByLeavingTheBox) {
+  OpenSmallPlot();
+  settings.Write("Use", "SpecsMax00.00", "=MAX(D2:D9)");
+  Type("=MAX(A2:C9)");
+  ASSERT_EQ(Box().count(), 1);
+  Key(Qt::Key_F4);
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
+  EXPECT_EQ(Box().currentText(), "=MAX(A2:C9)");
+  EXPECT_EQ(SpecTyped, 0);
+  ClickIntoPlot();
+  ExpectEntered("=MAX(A2:C9)");
+}
+
+TEST_F(Specification, OpeningAPanelEntersTheText) {
+  OpenSmallPlot();
+  Type("=MAX(A2:C9)");
+  ClickOn(Find("Text14"));
+  EXPECT_TRUE(Find("Options").isVisible());
+  EXPECT_TRUE(Find("Options").hasFocus());
+  ExpectEntered("=MAX(A2:C9)");
 }
 
 TEST_F(Specification, AKeyOfTheViewEntersNothing) {
   OpenSmallPlot();
-  SpecTyped = 0;
-  Box().lineEdit()->setFocus();
-  QTest::keyClicks(Box().lineEdit(), "=MAX(A2:");
+  Type("=MAX(A2:");
   Key(Qt::Key_Left);
   EXPECT_TRUE(plot->hasFocus());
   EXPECT_EQ(SpecTyped, 0);

@@ -14,6 +14,7 @@
 #include "SheetSession.h"
 #include "SpreadsheetSession.h"
 #include "TextHelpers.h"
+#include "TitleTerms.h"
 #include "UserFlag.h"
 
 namespace quorb {
@@ -60,11 +61,11 @@ void ForgetColumnPlot() {
 
 // A title that the sheet completed from a cell stands whole in the header: its formula names the first part.
 bool HeaderCompletesTitle(const DataFileHeader& header, const std::string& title) {
-  return header.formula.find('&') != std::string::npos && header.title.size() > title.size() &&
+  return IsTitleJoined(header.formula) && header.title.size() > title.size() &&
          header.title.compare(0, title.size(), title) == 0;
 }
 
-// The header's own scale and title count only when its formula has none.
+// The header's own scale and title count only when its formula has none, or only the title's first part.
 void TakeSpecification(const DataFileHeader& header, LoadState& load) {
   load.specification = Extraction_info(header.formula, "");
   load.givenScale = load.specification.scale;

@@ -83,6 +83,11 @@ void ExpandLenTerm(SheetSession& session) {
   session.cellFormula = working.substr(0, argument) + '"' + value.text + '"' + working.substr(close);
 }
 
+bool IsTitleJoined(std::string_view formula) {
+  const std::size_t term = FirstTerm(formula);
+  return term != kAbsent && FindConcatenation(formula, term) != kAbsent;
+}
+
 std::string TitleCellText(SheetSession& session) {
   const std::string name = CellNameInTitle(session.cellFormula);
   if (name.empty()) return {};
@@ -91,6 +96,7 @@ std::string TitleCellText(SheetSession& session) {
   CellValue value;
   session.Done(session.link.CellsValue(session.workbook, static_cast<int>(place.row),
                                        static_cast<int>(place.col), value));
+  std::replace(value.text.begin(), value.text.end(), '"', '\'');
   return value.text;
 }
 

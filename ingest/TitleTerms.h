@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "SheetSession.h"
 
 namespace quorb {
@@ -14,9 +16,14 @@ namespace quorb {
 /// and so does one whose argument the sheet does not take.
 void ExpandLenTerm(SheetSession& session);
 
+/// True when the title of this formula is joined with a cell: an "&" stands in its term outside double
+/// quotes.
+bool IsTitleJoined(std::string_view formula);
+
 /// The text of the cell that a concatenated title of `session.cellFormula` names, `NB("Orbit "&B3)` or
 /// `LEN(B3&" orbit")`: the one beside the literal. Empty when no "&" stands there outside double quotes, and
 /// when what stands beside it is no cell; a text that is almost one is told to the user.
+/// Double quotes in it become single ones, since the data file doubles them.
 std::string TitleCellText(SheetSession& session);
 
 }  // namespace quorb

@@ -89,13 +89,18 @@ void mnuFSaveAs_Click() {
   ShowImages(directory, message);
 }
 
+void NameMovie() {
+  MoviePrefix = "Quorb" + TimeStamp();
+  MovieDirectory = RealDirectory(ImageDirectory(), MoviePrefix);
+}
+
 void mnuFMovieSaveAs_Click() {
   if (USERFLAG.MovieArmed == 1.0) {
     USERFLAG.MovieFrameCount = USERFLAG.MovieNextTime = USERFLAG.MovieArmed = 0;
     return;
   }
-  MoviePrefix = "Quorb" + TimeStamp();
-  MovieDirectory = RealDirectory(ImageDirectory(), MoviePrefix);
+  NameMovie();
+  TakeFailureBack();
   ShowVideoWindow();
 }
 

@@ -13,6 +13,9 @@ std::string TimeStamp();
 /// cannot be written is told in Text21, each time.
 void mnuFSaveAs_Click();
 
+/// Names the frames of the next movie by the time of the clock, and their directory.
+void NameMovie();
+
 /// Stops the movie that is armed; else names the frames of the next one by the time of the clock, and shows
 /// the movie window without waiting for it.
 void mnuFMovieSaveAs_Click();

@@ -4,8 +4,10 @@
 
 #include "ActiveWindow.h"
 #include "DayClock.h"
+#include "Movie.h"
 #include "NumberPicture.h"
 #include "NumberText.h"
+#include "SaveImage.h"
 #include "UserFlag.h"
 
 namespace quorb {
@@ -116,6 +118,9 @@ void VideoWindow::Command1_Click() {
 void VideoWindow::Start() {
   const double typedPeriod = ValText(Text1.text.Get());  // ahead of update(), which rewrites the field
   ForgetPause();
+  // The frames of a movie that was made before stay.
+  if (!MoviePrefix.empty() && MoviePrefix == SeriesMade) NameMovie();
+  SeriesMade = MoviePrefix;
   update();
   USERFLAG.MovieRealTime = Check1.value;
   USERFLAG.MovieFrameTime = typedPeriod;

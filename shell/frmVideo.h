@@ -49,6 +49,8 @@ struct VideoWindow {
   void GoOn();
   /// Command1 starts a movie again.
   void ForgetPause();
+
+  std::string SeriesMade;  ///< the prefix of the frames of the last movie that was started
 };
 
 /// The movie window; made on its first use.

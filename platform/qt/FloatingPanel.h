@@ -10,7 +10,7 @@ namespace quorb {
 
 /// A panel that floats over the window. It stands where its control tells, is dragged by its background, and
 /// tells of the pointer as it moves over it or over anything in it. It is never higher than the window; one
-/// whose control follows no drag always stands whole in the window.
+/// whose control follows no drag always stands in the window with all four edges.
 class FloatingPanel : public QFrame {
  public:
   FloatingPanel(quorb::Panel& control, QWidget& canvas);

@@ -48,6 +48,8 @@ void SpecificationBox::keyPressEvent(QKeyEvent* event) {
 void SpecificationBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   ShowColours(true);
+  // Where the program asks for a specification, what stands there from before is none.
+  if (event->reason() == Qt::OtherFocusReason) textEntered_ = currentText();
   // The list that drops down gives the focus back: its entries stay as they are then.
   if (event->reason() != Qt::PopupFocusReason && gotFocus) gotFocus();
 }

@@ -1,11 +1,14 @@
 #include "ToolBarBinding.h"
 
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QMenu>
 #include <algorithm>
 #include <numeric>
 
 #include "ControlBinding.h"
+#include "KeyCodes.h"
+#include "frmMain.h"
 
 namespace quorb {
 
@@ -54,6 +57,9 @@ void ToolBarWidget::BindTool(int position) {
   button.Refresh();
   connect(action, &QObject::destroyed, [&button] { button.refresh = nullptr; });
   connect(action, &QAction::triggered, this, [this, &button] {
+    // A button in the list of those that find no room is clicked while the list has the keys.
+    const int held = ShiftMaskOf(QGuiApplication::keyboardModifiers());
+    if (held != 0) ShiftState = held;
     if (button.style == ToolButtonStyle::twoState) button.SetValue(1 - button.Value());
     if (control_.buttonClicked) control_.buttonClicked(button);
     button.Refresh();

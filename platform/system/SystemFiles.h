@@ -11,7 +11,7 @@ class SystemFiles : public FileAccess {
   std::unique_ptr<MappedFile> Map(const std::string& path, int& errorNumber) override;
   /// Until it is committed, the file stands beside its place under a name of its own.
   std::unique_ptr<OutputFile> Create(const std::string& path) override;
-  /// The user's data directory is $XDG_DATA_HOME/QuorbExcelPro. It is made when a file comes to stand there;
+  /// The user's data directory is $XDG_DATA_HOME/QuorbExcelPro. It is made when it is asked for and missing;
   /// where that fails, so does the writing of the file.
   std::string RealLocation(const std::string& path) const override;
 };

@@ -263,10 +263,19 @@ TEST_F(TitleTermsTest, ATailIsOnThePlotAndItsKeywordsCount) {
   EXPECT_EQ(MessageUserToPlot, "Orbit number 7") << "also when the file is opened later";
 }
 
+TEST_F(TitleTermsTest, DoubleQuotesInATailAreSingleOnes) {
+  MemoryBook& book = AddPlotBook("=2+NB(\"Disc \"&B8)+MAX(A2:C4)");
+  book.SetText(8, 2, "7\" wide");
+  LoadFromSheet();
+  EXPECT_EQ(MessageUserToPlot, "Disc 7' wide");
+}
+
 TEST_F(TitleTermsTest, AHeaderThatGoesAnotherWayThanItsFormulaDoesNotCount) {
   const std::string row = "1\t2\t3\t\r\n";
   Load(Header("=2+LEN(\"Orbit\")+MAX(A2:C2)", "2", "Orbit and more") + row);
   EXPECT_EQ(MessageUserToPlot, "Orbit") << "nothing is joined in this formula";
+  Load(Header("=2+LEN(\"R&D\")+MAX(A2:C2)", "2", "R&D and more kmday") + row);
+  EXPECT_EQ(MessageUserToPlot, "R&D") << "nor in this one";
   Load(Header("=2+LEN(\"Orbit\"&B8)+MAX(A2:C2)", "2", "Another") + row);
   EXPECT_EQ(MessageUserToPlot, "Orbit");
   Load(Header("=2+LEN(\"Orbit\"&B8)+MAX(A2:C2)", "2", "Orbit") + row);

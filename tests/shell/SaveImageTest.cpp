@@ -163,6 +163,20 @@ TEST_F(SaveImageTest, AFrameOfAMovieThatCannotBeWrittenIsToldOnce) {
   EXPECT_EQ(window.Text21.text.Get(), "");
 }
 
+TEST_F(SaveImageTest, AMovieThatIsStartedAnewLeavesTheFramesOfTheOneBefore) {
+  window.mnuFMovieSaveAs.clicked();
+  ScriptedDayClock clock;
+  clock.seconds = 36000;
+  for (const char* time : {"09:15:02", "09:20:00", "09:25:00"}) {
+    desktop.time = time;
+    frmVideo().Command1.clicked();
+    TheScene->MovieSaveAs();
+    USERFLAG.MovieFrameCount = 0;
+  }
+  EXPECT_EQ(MoviePrefix, "Quorb20260703_092500");
+  EXPECT_EQ(Saved().size(), 3U);
+}
+
 TEST_F(SaveImageTest, AMovieIsNamedAndItsWindowShown) {
   window.mnuFMovieSaveAs.clicked();
   EXPECT_EQ(MoviePrefix, "Quorb20260703_091502");

@@ -14,6 +14,7 @@ namespace {
 class VideoWindowTest : public WindowFixture {
  protected:
   VideoWindowTest() {
+    MoviePrefix.clear();
     clock.seconds = 36000;
     ShowVideoWindow();
   }
@@ -360,7 +361,7 @@ TEST_F(VideoWindowTest, AMovieOfFiveFramesEndsByItself) {
   EXPECT_EQ(directory.EntryCount(), 5);
 }
 
-TEST_F(VideoWindowTest, AnImageDirectoryThatIsAFileGivesNoFramesAndNoMessage) {
+TEST_F(VideoWindowTest, AnImageDirectoryThatIsAFileGivesNoFramesAndNoBox) {
   Load();
   MovieDirectory = directory.File("file");
   std::ofstream(MovieDirectory) << "not a directory";

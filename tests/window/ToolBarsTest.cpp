@@ -111,6 +111,19 @@ TEST_F(ToolBars, TheProjectionsFollowEachOtherAndGoBackWithTheControlKey) {
   ExpectEye(0, -100, 0);
 }
 
+TEST_F(ToolBars, TheControlKeyCountsAtTheClickAlsoWhereItWentDownInAList) {
+  OpenSmallPlot();
+  TheScene->CameraSteps.ProjStep = 0;
+  ClickTool(kView, 13);
+  ClickTool(kView, 13);
+  ExpectEye(0, 0, 100);
+  ASSERT_EQ(ShiftState, 0);
+  const QWidget& squares = Tool(kView, 13);
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::ControlModifier,
+                    squares.mapTo(window.get(), squares.rect().center()));
+  ExpectEye(0, -100, 0);
+}
+
 TEST_F(ToolBars, TheModeOfTheMouseIsPressedAndTold) {
   OpenSmallPlot();
   const QLabel* hint = nullptr;

@@ -1,5 +1,6 @@
 #include "ControlBinding.h"
 
+#include <QAbstractItemModel>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QSignalBlocker>
@@ -86,10 +87,11 @@ void ShowText(QLineEdit& widget, const TextBox& control) {
   if (control.selLength > 0) widget.setSelection(control.selStart, control.selLength);
 }
 
-bool HoldsEntries(const QListWidget& widget, const QStringList& entries) {
-  if (widget.count() != entries.size()) return false;
-  for (int row = 0; row < widget.count(); ++row) {
-    if (widget.item(row)->text() != entries[row]) return false;
+/// Whether a list shows these entries already.
+bool HoldsEntries(const QAbstractItemModel& list, const QStringList& entries) {
+  if (list.rowCount() != entries.size()) return false;
+  for (int row = 0; row < list.rowCount(); ++row) {
+    if (list.index(row, 0).data().toString() != entries[row]) return false;
   }
   return true;
 }
@@ -203,7 +205,7 @@ void BindList(QListWidget& widget, ListBox& control,
     for (const std::string& entry : control.items.Get())
       entries.append(shown(entry));
     // Between the two clicks of a double click the entries stay as they are.
-    if (!HoldsEntries(widget, entries)) {
+    if (!HoldsEntries(*widget.model(), entries)) {
       widget.clear();
       widget.addItems(entries);
     }
@@ -253,7 +255,7 @@ void BindSpecification(SpecificationBox& widget, ComboBox& control) {
     QStringList entries;
     for (const std::string& entry : control.items.Get())
       entries.append(Text(entry));
-    if (!widget.HoldsEntries(entries)) {
+    if (!HoldsEntries(*widget.model(), entries)) {
       widget.clear();
       widget.addItems(entries);
     }

@@ -25,14 +25,6 @@ SpecificationBox::SpecificationBox(QWidget* parent) : QComboBox(parent) {
   ShowColours(false);
 }
 
-bool SpecificationBox::HoldsEntries(const QStringList& entries) const {
-  if (entries.size() != count()) return false;
-  for (int i = 0; i < count(); ++i) {
-    if (itemText(i) != entries[i]) return false;
-  }
-  return true;
-}
-
 void SpecificationBox::Enter() {
   textEntered_ = currentText();
   if (entered) entered();

@@ -7,14 +7,11 @@ namespace quorb {
 
 /// An editable list in which a text is entered by Enter, by a double click, or by leaving it with another
 /// text than the one entered last. Another window that comes in front, the list that drops down and a key of
-/// the view enter nothing: the text waits for the next time that the box is left. Purple while it has the
-/// focus, pale without.
+/// the view enter nothing: the text waits for the next time that the box is left, unless the program itself
+/// gives it the focus. Purple while it has the focus, pale without.
 class SpecificationBox : public QComboBox {
  public:
   explicit SpecificationBox(QWidget* parent);
-
-  /// True when the list has these entries and no other.
-  bool HoldsEntries(const QStringList& entries) const;
 
   /// The text as it stands is entered.
   std::function<void()> entered;

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include "OrdinaryUser.h"
 #include "SystemFiles.h"
 #include "TemporaryDirectory.h"
 
@@ -12,27 +12,6 @@ namespace quorb {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Nobody's rights for as long as it lives, where the tests run as root, who may write everywhere.
-class Nobody {
- public:
-  Nobody() : wasRoot_(getuid() == 0) {
-    const uid_t nobody = 65534;
-    if (wasRoot_) {
-      EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
-    }
-  }
-  ~Nobody() {
-    if (wasRoot_) {
-      EXPECT_EQ(setresuid(0, 0, 0), 0);
-    }
-  }
-  Nobody(const Nobody&) = delete;
-  Nobody& operator=(const Nobody&) = delete;
-
- private:
-  bool wasRoot_;
-};
 
 /// A program directory that is only for reading, and a user without any data yet.
 class RealLocationTest : public testing::Test {
@@ -60,7 +39,7 @@ class RealLocationTest : public testing::Test {
 };
 
 TEST_F(RealLocationTest, AFileOfADirectoryThatIsOnlyReadCanBeWrittenAtItsRealLocation) {
-  const Nobody nobody;
+  const OrdinaryUser user;
   const std::string real = files.RealLocation(program + "/image.bmp");
   EXPECT_EQ(real, data + "/QuorbExcelPro/image.bmp");
   EXPECT_TRUE(fs::is_directory(data + "/QuorbExcelPro"));
@@ -68,13 +47,13 @@ TEST_F(RealLocationTest, AFileOfADirectoryThatIsOnlyReadCanBeWrittenAtItsRealLoc
 }
 
 TEST_F(RealLocationTest, AFileOfADirectoryThatCanBeWrittenStandsThere) {
-  const Nobody nobody;
+  const OrdinaryUser user;
   EXPECT_EQ(files.RealLocation(run.File("image.bmp")), run.File("image.bmp"));
   EXPECT_FALSE(fs::exists(data));
 }
 
 TEST_F(RealLocationTest, ADirectoryThatIsMissingStaysMissing) {
-  const Nobody nobody;
+  const OrdinaryUser user;
   EXPECT_EQ(files.RealLocation(run.File("none/image.bmp")), run.File("none/image.bmp"));
   EXPECT_FALSE(fs::exists(run.File("none")));
   EXPECT_FALSE(fs::exists(data));

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "LoadFixture.h"
+#include "OrdinaryUser.h"
 #include "TemporaryDirectory.h"
 
 namespace quorb {
@@ -17,25 +18,6 @@ namespace {
 void WriteFile(const std::string& path, const std::string& bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
 }
-
-/// Another user's rights for as long as it lives: nobody's, where the tests run as root.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : wasRoot_(geteuid() == 0) {
-    if (!wasRoot_) return;
-    const uid_t nobody = 65534;
-    EXPECT_EQ(seteuid(nobody), 0);
-  }
-  ~OrdinaryUser() {
-    if (!wasRoot_) return;
-    EXPECT_EQ(seteuid(0), 0);
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
- private:
-  bool wasRoot_;
-};
 
 class SystemFilesTest : public testing::Test {
  protected:

@@ -138,6 +138,17 @@ TEST_F(Specification, ATextFromBeforeAKeyOfTheViewIsEnteredByComingBackAndLeavin
   ExpectEntered("=MAX(A2:C9)");
 }
 
+TEST_F(Specification, ATextFromBeforeTheProgramAskedForOneIsNoAnswer) {
+  OpenSmallPlot();
+  Type("=MAX(");
+  Key(Qt::Key_Left);
+  ASSERT_TRUE(plot->hasFocus());
+  frmMain->Combo1.takeFocus();
+  ASSERT_TRUE(Box().hasFocus());
+  ClickIntoPlot();
+  EXPECT_EQ(SpecTyped, 0);
+}
+
 TEST_F(Specification, ATextFromBeforeTheListWasOpenedIsEnteredByLeavingTheBox) {
   OpenSmallPlot();
   settings.Write("Use", "SpecsMax00.00", "=MAX(D2:D9)");

@@ -43,11 +43,11 @@ EXCEL_TEST(Failures, ABusyApplicationIs50290) {
 
 EXCEL_TEST(Failures, ARejectedPollEndsAtOnce) {
   AttachedLink at;
-  at.server.RejectFor(400);
+  at.server.RejectFor(2000);
   const auto start = Clock::now();
   CHECK_EQUAL(NumberOfPoll(*at.link), -2147418111);
-  CHECK(MillisecondsSince(start) < 700);
-  Sleep(500);
+  CHECK(MillisecondsSince(start) < 900);
+  Sleep(2200);
   CHECK_EQUAL(NumberOfPoll(*at.link), 0);
 }
 
@@ -88,7 +88,7 @@ EXCEL_TEST(Failures, AHangIsCutAndBusyUntilItHasComeBack) {
   CHECK_EQUAL(at.link->GetRunningObject().number, 50290);
   at.link->ReleaseObject();
   CHECK(MillisecondsSince(start) < 400);
-  Sleep(2000);
+  Sleep(3000);
   CHECK_EQUAL(at.link->GetRunningObject().number, 0);
   CHECK_EQUAL(NumberOfPoll(*at.link), 0);
 }
@@ -101,13 +101,13 @@ EXCEL_TEST(Failures, AttachingToOneThatHangsIsCutToo) {
     std::string name;
     static_cast<void>(at.server.App().GetText(L"Name", name));
   });
-  Sleep(200);
+  Sleep(500);
   const auto start = Clock::now();
   const int attached = at.link->GetRunningObject().number;
   CHECK_EQUAL(attached == 0 ? NumberOfPoll(*at.link) : attached, 50290);
   CHECK(MillisecondsSince(start) < 1800);
   somebodyElse.join();
-  Sleep(200);
+  Sleep(1000);
   CHECK_EQUAL(at.link->GetRunningObject().number, 0);
 }
 
@@ -125,21 +125,22 @@ EXCEL_TEST(Failures, AStepOfALoadMayTakeLongWhileTheApplicationComputes) {
   at.server.Mode("hang", "Version", 1500);
   CHECK_EQUAL(NumberOfLoadStep(link), 0);
   CHECK_EQUAL(asked, at.server.Process());
-  CHECK(dialogs.pumps > 20);
+  CHECK(dialogs.pumps > 5);
   usedMore = 30000;
   at.server.Mode("hang", "Version", 1500);
   CHECK_EQUAL(NumberOfLoadStep(link), 50290);
-  Sleep(1500);
+  Sleep(2500);
 }
 
 EXCEL_TEST(Failures, ProcessorTimeIsTold) {
   const auto before = ProcessorMicroseconds(GetCurrentProcessId());
   const auto start = Clock::now();
-  volatile int turns = 0;
-  while (MillisecondsSince(start) < 300)
-    turns = turns + 1;
-  const auto used = ProcessorMicroseconds(GetCurrentProcessId()) - before;
-  CHECK(used > 50000 && used < 2000000);
+  std::int64_t used = 0;
+  while (used < 200000 && MillisecondsSince(start) < 10000)
+    used = ProcessorMicroseconds(GetCurrentProcessId()) - before;
+  CHECK(used >= 200000);
+  // Other threads of the program may use the second processor.
+  CHECK(used / 1000 < 2 * MillisecondsSince(start) + 100);
   CHECK_EQUAL(ProcessorMicroseconds(0), 0);
 }
 
@@ -149,11 +150,14 @@ EXCEL_TEST(Failures, EventsAreLetThroughInALoadAndNeverInAPoll) {
   at.server.Mode("hang", "Name", 200);
   CHECK_EQUAL(NumberOfPoll(*at.link), 0);
   CHECK_EQUAL(dialogs.pumps, 0);
+  // The step may come to its end within an event that lasts; only the first one is surely inside it.
   int inner = 0;
-  dialogs.onPump = [&] { inner = NumberOfPoll(*at.link); };
+  dialogs.onPump = [&] {
+    if (dialogs.pumps == 1) inner = NumberOfPoll(*at.link);
+  };
   at.server.Mode("hang", "Version", 200);
   CHECK_EQUAL(NumberOfLoadStep(*at.link), 0);
-  CHECK(dialogs.pumps > 3);
+  CHECK(dialogs.pumps > 0);
   CHECK_EQUAL(inner, 50290);
 }
 
@@ -183,7 +187,7 @@ EXCEL_TEST(Failures, ALinkEndsWhileItsCallHangs) {
   const auto start = Clock::now();
   at.link.reset();
   CHECK(MillisecondsSince(start) < 500);
-  Sleep(1100);
+  Sleep(2000);
 }
 
 EXCEL_TEST(Failures, AReleaseTakesPlaceWhenTheCallThatHangsHasComeBack) {
@@ -191,7 +195,7 @@ EXCEL_TEST(Failures, AReleaseTakesPlaceWhenTheCallThatHangsHasComeBack) {
   at.server.Mode("hang", "Add", 1000);
   CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
   at.link->ReleaseObject();
-  Sleep(1500);
+  Sleep(2500);
   CHECK_EQUAL(at.server.Log(), "Add Scratch1\nClose Scratch1 unsaved\n");
   CHECK_EQUAL(at.server.State(), at.stateBefore);
   CHECK_EQUAL(NumberOfPoll(*at.link), 91);
@@ -203,7 +207,7 @@ EXCEL_TEST(Failures, ALinkThatEndsWhileItsCallHangsLeavesNoWorkbook) {
   at.server.Mode("hang", "Add", 1000);
   CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
   at.link.reset();
-  Sleep(1500);
+  Sleep(2500);
   CHECK_EQUAL(at.server.State(), at.stateBefore);
 }
 
@@ -240,7 +244,7 @@ EXCEL_TEST(Failures, AStepThatHangsIsWaitedForOnce) {
   at.server.Mode("hang", "Add", 2000);
   CHECK_EQUAL(at.link->WorkbooksAdd().number, 50290);
   CHECK(spent >= 550 && spent < 1100);
-  Sleep(2200);
+  Sleep(3000);
   CHECK_EQUAL(at.server.State(), at.stateBefore);
   CHECK_EQUAL(NumberOfPoll(*at.link), 91);
 }

@@ -10,7 +10,7 @@
 namespace {
 
 // An application that ends at once loses its answer to Quit.
-constexpr UINT kTimeForAnswer = 150;
+constexpr UINT kTimeForAnswer = 400;
 
 void CALLBACK EndServer(HWND, UINT, UINT_PTR, DWORD) {
   PostQuitMessage(0);

@@ -172,6 +172,20 @@ TEST_F(SheetWatcherTest, AReloadClearsTheFlagsBeforeItLoads) {
   EXPECT_THAT(flags, ElementsAre(0, 0, 0, 0));
 }
 
+TEST_F(SheetWatcherTest, AReloadLeavesTheReferenceToALoadThatBeganWhileItWaited) {
+  Settle();
+  book_->SetText(kFormulaRow, kFormulaColumn, "seven");
+  ASSERT_EQ(Poll(), 0);
+  book_->SetText(kFormulaRow, kFormulaColumn, "eight");
+  window.onPause = [&] {
+    window.onPause = nullptr;
+    book_->SetFormula(kFormulaRow, kFormulaColumn, kFormula, 31);
+    LoadFromSheet();
+  };
+  EXPECT_EQ(Poll(), 2);
+  EXPECT_EQ(LastFormula, kFormula);
+}
+
 // ---- the command ------------------------------------------------------------------------------------------
 
 TEST_F(SheetWatcherTest, AnUpdateLoadsWithoutALook) {

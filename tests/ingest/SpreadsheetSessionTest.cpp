@@ -116,6 +116,14 @@ TEST_F(SpreadsheetSessionTest, AFormulaWhoseFirstRangeIsEmptyReadsTheOldFile) {
   EXPECT_EQ(sheet.CallCount("WorkbooksAdd"), 0);
   EXPECT_THAT(Point(0), ElementsAre(0, 14, 16, 18, 0));
   EXPECT_EQ(LastFormula, "=LEN(\"T\")+MAX()");
+  EXPECT_EQ(HistoryEntries("=LEN(\"T\")+MAX()"), 1) << "it is kept though it does not hold";
+}
+
+TEST_F(SpreadsheetSessionTest, QuaternionsOfThePlotBeforeAreGoneWhenNoFileCanBeRead) {
+  NbQuater = 5;
+  LoadFromSheet();
+  EXPECT_EQ(WrittenFile(), "none");
+  EXPECT_EQ(NbQuater, 0);
 }
 
 TEST_F(SpreadsheetSessionTest, AKeywordOfTheUsersOwnIsLookedFor) {

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QDBusVariant>
-#include <QTimer>
 #include <algorithm>
 #include <string>
 
@@ -108,7 +107,16 @@ AutomationService::AutomationService() : bus_(QString()) {
     refused_.erase(client);
     calls_.Forget(client.toStdString());
   });
+  LookAfterEndOfBus();
   TakeNames();
+}
+
+// The bus library tells the end to a slot only; the timer's is one.
+void AutomationService::LookAfterEndOfBus() {
+  endOfBus_.setSingleShot(true);
+  connect(&endOfBus_, &QTimer::timeout, this, [] { Log("Automation is off: the session bus has ended."); });
+  bus_.connect(QString(), "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected",
+               &endOfBus_, SLOT(start()));
 }
 
 void AutomationService::TakeNames() {

@@ -5,6 +5,7 @@
 #include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
 #include <QElapsedTimer>
+#include <QTimer>
 #include <deque>
 #include <set>
 
@@ -27,7 +28,7 @@ class AutomationService : public QDBusVirtualObject {
  public:
   /// To be made behind the window's load sequence, and best once the window is shown: a bus that is silent
   /// holds it up for a second. One line of the window's log tells the names that are its own, or why there is
-  /// no automation.
+  /// no automation; another one tells later that the bus has ended.
   AutomationService();
   ~AutomationService() override;
 
@@ -39,6 +40,7 @@ class AutomationService : public QDBusVirtualObject {
 
  private:
   void TakeNames();
+  void LookAfterEndOfBus();
   void TakeTurnSoon();
   void TakeTurn();
   void Answer(const QDBusMessage& message);
@@ -50,6 +52,7 @@ class AutomationService : public QDBusVirtualObject {
 
   QDBusConnection bus_;
   QDBusServiceWatcher departures_;
+  QTimer endOfBus_;
   std::set<QString> admitted_, refused_;
   AutomationCalls calls_;
   std::deque<QDBusMessage> waiting_;

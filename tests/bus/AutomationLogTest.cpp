@@ -6,6 +6,8 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <QProcess>
+#include <QTest>
 #include <chrono>
 #include <filesystem>
 
@@ -17,6 +19,7 @@
 namespace quorb {
 namespace {
 
+using testing::EndsWith;
 using testing::MatchesRegex;
 using testing::StartsWith;
 
@@ -104,6 +107,20 @@ TEST_F(AutomationLog, ABusThatIsSilentIsGivenUpWithinAMoment) {
 TEST_F(AutomationLog, ABusThatDoesNotAnswerIsTold) {
   EXPECT_THAT(LogOn("unix:path=/nowhere/bus"),
               StartsWith("Automation is off: the session bus does not answer: "));
+}
+
+TEST_F(AutomationLog, TheEndOfTheBusIsTold) {
+  QProcess daemon;
+  daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+  ASSERT_TRUE(daemon.waitForReadyRead());
+  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.readLine().trimmed());
+  frmMain->Text20.text = "";
+  const AutomationService service;
+  ASSERT_THAT(frmMain->Text20.text.Get(), MatchesRegex(kOn));
+  daemon.kill();
+  daemon.waitForFinished();
+  EXPECT_TRUE(QTest::qWaitFor([] { return frmMain->Text20.text.Get().find("off") != std::string::npos; }));
+  EXPECT_THAT(frmMain->Text20.text.Get(), EndsWith("\r\nAutomation is off: the session bus has ended."));
 }
 
 TEST_F(AutomationLog, TheSocketOfTheUsersDirectoryIsTakenWhenNothingElseIsNamed) {

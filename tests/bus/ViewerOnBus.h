@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -82,10 +81,10 @@ class ViewerOnBus : public testing::Test {
         run.Run("/usr/bin/gdbus",
                 "call --session -d org.freedesktop.DBus -o / -m org.freedesktop.DBus.ListNames")
             .out;
-    const std::regex own("'(org\\.quorb[^']*)'");
+    const std::string mark = "'org.quorb";
     std::vector<std::string> names;
-    for (std::sregex_iterator name(list.begin(), list.end(), own); name != std::sregex_iterator(); ++name)
-      names.push_back((*name)[1]);
+    for (auto at = list.find(mark); at != std::string::npos; at = list.find(mark, at + 1))
+      names.push_back(list.substr(at + 1, list.find('\'', at + 1) - at - 1));
     std::sort(names.begin(), names.end());
     return names;
   }

@@ -3,7 +3,6 @@
 #include <array>
 #include <cstdio>
 #include <functional>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -15,6 +14,7 @@
 #include "PlotData.h"
 #include "RunState.h"
 #include "ScriptedDialogs.h"
+#include "UndatedFile.h"
 #include "UserFlag.h"
 
 namespace quorb {
@@ -83,9 +83,7 @@ class CalcLoadFixture : public CalcFixture {
   std::string WrittenFile() const {
     const auto file = files_.contents.find(kLastFile);
     if (file == files_.contents.end()) return "none";
-    static const std::regex date("Date [0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}");
-    const std::size_t lineEnd = file->second.find('\r');
-    return std::regex_replace(file->second.substr(0, lineEnd), date, "Date D") + file->second.substr(lineEnd);
+    return UndatedFile(file->second);
   }
 
   static std::string Header(const std::string& book, const std::string& sheet, const std::string& formula,

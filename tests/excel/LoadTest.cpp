@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <regex>
 
 #include "Check.h"
 #include "ClipboardSetup.h"
@@ -15,6 +14,7 @@
 #include "RunState.h"
 #include "ScriptedDialogs.h"
 #include "SheetWatcher.h"
+#include "UndatedFile.h"
 #include "UserFlag.h"
 
 namespace quorb {
@@ -49,8 +49,7 @@ struct Loading : AttachedLink {
   std::string WrittenFile() const {
     const auto file = files.contents.find(kLastFile);
     if (file == files.contents.end()) return "none";
-    static const std::regex date("Date [0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}");
-    return std::regex_replace(file->second, date, "Date D");
+    return UndatedFile(file->second);
   }
 
   MemoryFiles files;

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <regex>
 #include <string>
 #include <vector>
 
 #include "LoadFixture.h"
 #include "MapSettingsStore.h"
 #include "MemorySpreadsheet.h"
+#include "UndatedFile.h"
 
 namespace quorb {
 
@@ -49,8 +49,7 @@ class SheetFixture : public LoadFixture {
   std::string WrittenFile() const {
     const auto file = files.contents.find(kLastFile);
     if (file == files.contents.end()) return "none";
-    static const std::regex date("Date [0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}");
-    return std::regex_replace(file->second, date, "Date D");
+    return UndatedFile(file->second);
   }
 
   /// The header line of such a file.

@@ -24,41 +24,38 @@ function(quorb_library name)
   target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE quorb_warnings ${ARG_PRIVATE_LINK})
 endfunction()
 
-# What the sources of tests are compiled with: they need no speed, and to watch the tests themselves for undefined
-# behaviour would double their compile time.
+# What a program of tests is compiled with: the tests need no speed, and most of their compile time is the test
+# library's headers.
 function(quorb_test_flags name)
   target_compile_options(${name} PRIVATE -O0)
-  if(QUORB_SANITIZE)
-    target_compile_options(${name} PRIVATE -fno-sanitize=undefined)
-  endif()
 endfunction()
 
-# The test library's headers for the test program `name`, compiled once for `owner`, whose compiler flags must be
-# the same. Each program with Qt owns its own: Qt names the folder of the tests in its flags.
-function(quorb_test_headers name owner)
-  if(name STREQUAL owner)
-    target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
-  else()
-    target_precompile_headers(${name} REUSE_FROM ${owner})
-  endif()
+# Those headers, compiled once for all programs that have no further compiler flags.
+function(quorb_test_headers name)
+  target_precompile_headers(${name} REUSE_FROM quorb_test_library)
 endfunction()
 
-# A test program over the .cpp files of one folder of tests/. REAL_TIME: it watches other programs, and is judged
-# as tests/run-tests tells.
+# A test program over the .cpp files of one folder of tests/.
+# REAL_TIME: its tests of that filter watch other programs, and are judged as tests/run-tests tells.
+# OWN_HEADERS: its compiler flags are its own.
 function(quorb_test name folder)
-  cmake_parse_arguments(ARG "REAL_TIME" "HEADERS_OF" "LINK" ${ARGN})
-  if(NOT ARG_HEADERS_OF)
-    set(ARG_HEADERS_OF math_tests)
-  endif()
+  cmake_parse_arguments(ARG "OWN_HEADERS" "REAL_TIME" "LINK" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
   quorb_test_flags(${name})
-  quorb_test_headers(${name} ${ARG_HEADERS_OF})
-  target_link_libraries(${name} PRIVATE quorb_warnings ${ARG_LINK} GTest::gmock GTest::gtest_main)
-  set(labels)
-  if(ARG_REAL_TIME)
-    set(labels LABELS real_time)
+  if(ARG_OWN_HEADERS)
+    target_precompile_headers(${name} PRIVATE <gmock/gmock.h> <gtest/gtest.h>)
+  else()
+    quorb_test_headers(${name})
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300 ${labels})
+  target_link_libraries(${name} PRIVATE quorb_warnings ${ARG_LINK} GTest::gmock GTest::gtest_main)
+  if(ARG_REAL_TIME)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_FILTER ${ARG_REAL_TIME}
+      PROPERTIES TIMEOUT 300 LABELS real_time)
+  endif()
+  if(NOT ARG_REAL_TIME STREQUAL "*")
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_FILTER "-${ARG_REAL_TIME}" TEST_LIST ${name}_others
+      PROPERTIES TIMEOUT 300)
+  endif()
 endfunction()

@@ -107,16 +107,17 @@ AutomationService::AutomationService() : bus_(QString()) {
     refused_.erase(client);
     calls_.Forget(client.toStdString());
   });
-  LookAfterEndOfBus();
+  WatchForEndOfBus();
   TakeNames();
 }
 
-// The bus library tells the end to a slot only; the timer's is one.
-void AutomationService::LookAfterEndOfBus() {
-  endOfBus_.setSingleShot(true);
-  connect(&endOfBus_, &QTimer::timeout, this, [] { Log("Automation is off: the session bus has ended."); });
+// The connection calls named slots only, and this class has none of its own: the timer's start stands in.
+void AutomationService::WatchForEndOfBus() {
+  endOfBusTimer_.setSingleShot(true);
+  connect(&endOfBusTimer_, &QTimer::timeout, this,
+          [] { Log("Automation is off: the session bus has ended."); });
   bus_.connect(QString(), "/org/freedesktop/DBus/Local", "org.freedesktop.DBus.Local", "Disconnected",
-               &endOfBus_, SLOT(start()));
+               &endOfBusTimer_, SLOT(start()));
 }
 
 void AutomationService::TakeNames() {

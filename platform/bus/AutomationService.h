@@ -40,7 +40,7 @@ class AutomationService : public QDBusVirtualObject {
 
  private:
   void TakeNames();
-  void LookAfterEndOfBus();
+  void WatchForEndOfBus();
   void TakeTurnSoon();
   void TakeTurn();
   void Answer(const QDBusMessage& message);
@@ -52,7 +52,7 @@ class AutomationService : public QDBusVirtualObject {
 
   QDBusConnection bus_;
   QDBusServiceWatcher departures_;
-  QTimer endOfBus_;
+  QTimer endOfBusTimer_;
   std::set<QString> admitted_, refused_;
   AutomationCalls calls_;
   std::deque<QDBusMessage> waiting_;

@@ -78,17 +78,17 @@ EXCEL_TEST(Failures, AFailureKeepsItsNumberAndItsWords) {
 
 EXCEL_TEST(Failures, AHangIsCutAndBusyUntilItHasComeBack) {
   AttachedLink at(500);
-  at.server.Mode("hang", "Name", 2000);
+  at.server.Mode("hang", "Name", 5000);
   auto start = Clock::now();
   CHECK_EQUAL(NumberOfPoll(*at.link), 50290);
   const int first = MillisecondsSince(start);
-  CHECK(first >= 450 && first < 1500);
+  CHECK(first >= 450 && first < 2500);
   start = Clock::now();
   CHECK_EQUAL(NumberOfPoll(*at.link), 50290);
   CHECK_EQUAL(at.link->GetRunningObject().number, 50290);
   at.link->ReleaseObject();
-  CHECK(MillisecondsSince(start) < 400);
-  Sleep(3000);
+  CHECK(MillisecondsSince(start) < 1200);
+  Sleep(6000);
   CHECK_EQUAL(at.link->GetRunningObject().number, 0);
   CHECK_EQUAL(NumberOfPoll(*at.link), 0);
 }
@@ -182,12 +182,12 @@ EXCEL_TEST(Failures, AReleaseInAnEventWaitsForTheStepAndMakesItFail) {
 
 EXCEL_TEST(Failures, ALinkEndsWhileItsCallHangs) {
   AttachedLink at(300);
-  at.server.Mode("hang", "Name", 1000);
+  at.server.Mode("hang", "Name", 3000);
   CHECK_EQUAL(NumberOfPoll(*at.link), 50290);
   const auto start = Clock::now();
   at.link.reset();
-  CHECK(MillisecondsSince(start) < 500);
-  Sleep(2000);
+  CHECK(MillisecondsSince(start) < 1500);
+  Sleep(4000);
 }
 
 EXCEL_TEST(Failures, AReleaseTakesPlaceWhenTheCallThatHangsHasComeBack) {

@@ -73,7 +73,8 @@ class FakeLoaderWindow : public LoaderWindow {
   void Combo1_GotFocusRoutine() override { Note("Combo1_GotFocusRoutine"); }
   void Pause(double seconds) override {
     pauses.push_back(seconds);
-    if (onPause) onPause();
+    const auto act = onPause;  // which may set another one
+    if (act) act();
   }
   void CameraSet(const std::string& mode, double value, double flag) override {
     Note("CameraSet " + mode + " " + std::to_string(static_cast<int>(value)) + " " +

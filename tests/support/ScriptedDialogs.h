@@ -68,7 +68,8 @@ class ScriptedDialogs : public Dialogs {
 
   void PumpEvents() override {
     ++pumps;
-    if (onPump) onPump();
+    const auto act = onPump;  // which may set another one
+    if (act) act();
     if (pumps == pumpLimit) throw PumpLimitReached();
   }
 

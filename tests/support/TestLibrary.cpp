@@ -1,0 +1,1 @@
+// Owns the test library's precompiled headers, which the test programs share.
